@@ -1,0 +1,55 @@
+// Logger: the process-wide log writer; static state, no objects.
+// A message is written when its level is at most its component's threshold
+// (4 for a component that is not in log_level).
+#ifndef LOG_H
+#define LOG_H
+
+#include <pthread.h>
+#include <cstdarg>
+#include <cstdio>
+#include <map>
+
+#include "ustring.h"
+
+class Logger {
+public:
+    enum Type {
+        LOG_TYPE_SYSLOG = 1,  // vsyslog, always at priority 3
+        LOG_TYPE_STDOUT = 2,
+        LOG_TYPE_STDERR = 3,
+        LOG_TYPE_FILE = 4,    // file with size accounting and rotation
+    };
+    enum Level {
+        LOG_ERROR = 3,
+        LOG_WARNING = 4,
+        LOG_NOTE = 5,
+        LOG_INFO = 6,
+        LOG_DEBUG = 7,
+    };
+
+    // 0 on success, -1 when LOG_TYPE_FILE has an empty or unopenable path (the
+    // previous stream stays in use). The level file is applied in every case.
+    static int Initialize(Type type, const ustring& log_path, const ustring& level_path,
+                          int rotate_count);
+    static void LogMsg(Level level, const ustring& component, const char* format, ...)
+        __attribute__((format(printf, 3, 4)));
+    static void LogMsg2(Level level, const ustring& component, const char* format,
+                        va_list args) __attribute__((format(printf, 3, 0)));
+    // Renames archives k -> k+1, drops archive rotate_cnt-1, moves the live file
+    // to archive 0 and reopens it. On failure logging stops for the process.
+    static int Rotate();
+    static void Destroy();
+
+    static std::map<ustring, int> log_level;
+    static Type log_type;
+    static FILE* log_fp;
+    static ustring log_path;
+    static int log_size;
+    static int rotate_cnt;
+    static pthread_mutex_t log_lock;
+};
+
+void LogMSG_c(int level, const char* component, const char* format, va_list args)
+    __attribute__((format(printf, 3, 0)));
+
+#endif

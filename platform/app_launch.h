@@ -1,0 +1,17 @@
+// Asks the desktop to open an application bundle: start it, or bring an
+// already running instance to the front. True on success.
+// macOS: the launching service through QDesktopServices::openUrl.
+// Elsewhere: the bundle's Contents/MacOS/<exe_name> is started detached, in its
+// own session, standard streams on /dev/null; false when it is missing or not
+// executable. When known_pid (> 0) already runs that executable, nothing is
+// started and the result is true ("bring to front").
+#ifndef PLATFORM_APP_LAUNCH_H
+#define PLATFORM_APP_LAUNCH_H
+
+#include <sys/types.h>
+
+#include <QString>
+
+bool OpenApplicationBundle(const QString& bundle_path, const QString& exe_name, pid_t known_pid);
+
+#endif

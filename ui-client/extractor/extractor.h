@@ -1,0 +1,28 @@
+// Extractor: unpacks a package archive below dest_path with libarchive,
+// reporting (total, done) after every entry through Notify_Adapter.
+// Every entry path, and every hard-link target, is put below dest_path; an
+// entry with a ".." component or one reaching through a symbolic link is
+// refused and stops the extraction. Entries written before a failure stay.
+#ifndef EXTRACTOR_H
+#define EXTRACTOR_H
+
+#include "ustring.h"
+
+struct archive;
+
+class Extractor {
+public:
+    // 0 when every entry was written, -1 on any failure (warnings included).
+    int Extract();
+    // Number of entries (0 or more), or -1 on failure.
+    int Count();
+    // Writes the entry names to standard output; 0, or -1 on an empty path.
+    int List();
+    // Copies the current entry's data block by block; 0 at its end, -1 on failure.
+    int copy_data(struct archive* ar, struct archive* aw);
+
+    ustring dest_path;
+    ustring archive_path;
+};
+
+#endif

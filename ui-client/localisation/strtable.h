@@ -1,0 +1,19 @@
+// StrTable: every user-visible text by id (0 to 599), translated through the
+// installed catalogue with context "global" and the English text as source.
+#ifndef STRTABLE_H
+#define STRTABLE_H
+
+#include <QString>
+
+namespace StrTable {
+// Fills the table; call once on the main thread before any other thread runs.
+void InitStrTable();
+// The translated text, with "\n" and "\t" (backslash sequences) turned into a
+// newline and a tab. An id outside 0 to 599, or a call before InitStrTable,
+// gives an empty text.
+QString LoadStr(int id);
+// The id of a key (case-insensitive), or -1.
+int LookupStrID(QString key);
+}
+
+#endif

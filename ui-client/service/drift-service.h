@@ -1,0 +1,56 @@
+// Service: the installation service interface and its shared implementation:
+// install locations, version records, rebuilding the per-user copy.
+#ifndef DRIFT_SERVICE_H
+#define DRIFT_SERVICE_H
+
+#include <cstdint>
+
+#include "ustring.h"
+
+struct VerInfo {
+    ustring major_version;
+    ustring minor_version;
+    ustring build_version;
+    ustring icon_overlay_version;
+};
+
+class Service {
+public:
+    Service();
+    virtual ~Service();
+    virtual void StopService() = 0;
+    virtual void SetTimeout(int value);
+    // 0 success, -1 failure.
+    virtual int HandlePackageUpgrade() = 0;
+    virtual void PostUpgrade() = 0;
+    virtual void PreUpgrade() = 0;
+    virtual bool IsNeedUpgrade() = 0;
+    // Extracts the bundle's package into the per-user bundle folder; 0 or -1.
+    virtual int ExtractPackage();
+    virtual void LoadSourceVersion();
+    virtual void LoadTargetVersion();
+    // Moves the old per-user bundle to the first free backup name, extracts,
+    // and restores the backup on failure. 0 when the new copy is in place.
+    virtual int PrepareUserEnv();
+
+    // Install locations: absolute UTF-8 paths without a trailing slash,
+    // recomputed on every call (the application object must exist).
+    static ustring GetUserInstallPath();
+    static ustring GetRootDriftwellInstallPath();
+    static ustring GetRootDriftwellResourceInstallPath();
+    static ustring GetUserDriftwellInstallPath();
+    static ustring GetUserDriftwellAppInstallPath();
+    static ustring GetUserDriftwellDataInstallPath();
+
+    // Removes ~/.Driftwell/app; runs on every launch.
+    void RemoveAgedFolders();
+    // Copies a file or a folder tree, depth first; 0 or -1.
+    int FSCopyPath(const ustring& source, const ustring& destination);
+
+    int32_t timeout;
+    ustring app_path;
+    VerInfo target_version;
+    VerInfo source_version;
+};
+
+#endif
