@@ -1,1 +1,210 @@
-// to be written
+#include "log.h"
+
+#include <ctime>
+
+#include "config.h"
+
+// <syslog.h> defines LOG_WARNING, LOG_INFO and LOG_DEBUG as macros, which
+// would rewrite Logger's own level names; it comes after log.h, and this file
+// does not spell those names.
+#include <syslog.h>
+
+namespace {
+
+// Rotation happens once the counted size is strictly greater than this.
+const int MAX_LOG_SIZE = 1048576;
+// Threshold of a component that is not in log_level; no fall-back to
+// "default_component".
+const int DEFAULT_THRESHOLD = 4;
+
+// log_fp is tested without the lock (LogMsg2's fast path), so every store and
+// that one load are atomic; all other uses happen under log_lock.
+FILE* load_fp() { return __atomic_load_n(&Logger::log_fp, __ATOMIC_ACQUIRE); }
+void store_fp(FILE* fp) { __atomic_store_n(&Logger::log_fp, fp, __ATOMIC_RELEASE); }
+
+// Thread cancellation is held off while log_lock is taken, so a cancelled
+// thread can never leave the lock behind.
+class LogLockGuard {
+public:
+    LogLockGuard()
+    {
+        pthread_setcancelstate(PTHREAD_CANCEL_DISABLE, &old_state_);
+        pthread_mutex_lock(&Logger::log_lock);
+    }
+    ~LogLockGuard()
+    {
+        pthread_mutex_unlock(&Logger::log_lock);
+        int ignored;
+        pthread_setcancelstate(old_state_, &ignored);
+    }
+    LogLockGuard(const LogLockGuard&) = delete;
+    LogLockGuard& operator=(const LogLockGuard&) = delete;
+
+private:
+    int old_state_ = PTHREAD_CANCEL_ENABLE;
+};
+
+// Time stamp, then the caller's text; returns the bytes written (negative
+// when a write failed and the sum went below zero).
+int write_stamped(FILE* fp, const char* format, va_list args)
+{
+    char stamp[512];
+    time_t now = time(nullptr);
+    struct tm local;
+    stamp[0] = '\0';
+    if (localtime_r(&now, &local) != nullptr)
+        strftime(stamp, sizeof stamp, "%b %d %H:%M:%S ", &local);
+    int count = fprintf(fp, "%s", stamp);
+    count += vfprintf(fp, format, args);
+    fflush(fp);
+    return count;
+}
+
+void archive_name(char (&buf)[1024], int k)
+{
+    snprintf(buf, sizeof buf, "%s_%d", Logger::log_path.c_str_utf8(), k);
+}
+
+}  // namespace
+
+std::map<ustring, int> Logger::log_level;
+Logger::Type Logger::log_type = Logger::LOG_TYPE_STDOUT;
+FILE* Logger::log_fp = stderr;
+ustring Logger::log_path;
+int Logger::log_size = -1;
+int Logger::rotate_cnt = 50;
+pthread_mutex_t Logger::log_lock = PTHREAD_MUTEX_INITIALIZER;
+
+int Logger::Initialize(Type type, const ustring& path, const ustring& level_path, int rotate_count)
+{
+    log_level["default_component"] = DEFAULT_THRESHOLD;
+    if (!level_path.empty()) {
+        // A missing or malformed level file leaves the defaults; not an error.
+        Config levels;
+        levels.read(level_path);
+        for (const auto& entry : levels.entries)
+            log_level[entry.first] = levels.get_int(entry.first);
+    }
+
+    log_type = type;
+    switch (type) {
+    case LOG_TYPE_STDERR:
+        store_fp(stderr);
+        break;
+    case LOG_TYPE_STDOUT:
+        store_fp(stdout);
+        break;
+    case LOG_TYPE_SYSLOG:
+        store_fp(nullptr);
+        break;
+    default: {
+        // On failure the previous stream stays in use, uncounted.
+        if (path.empty())
+            return -1;
+        FILE* fp = fopen(path.c_str_utf8(), "a");
+        if (fp == nullptr)
+            return -1;
+        store_fp(fp);
+        log_size = 0;
+        log_path = path;
+        rotate_cnt = rotate_count;
+        return 0;
+    }
+    }
+    log_path.clear();
+    log_size = -1;
+    return 0;
+}
+
+void Logger::LogMsg(Level level, const ustring& component, const char* format, ...)
+{
+    va_list args;
+    va_start(args, format);
+    LogMsg2(level, component, format, args);
+    va_end(args);
+}
+
+void Logger::LogMsg2(Level level, const ustring& component, const char* format, va_list args)
+{
+    // After a failed rotation log_fp stays null: logging has stopped for good.
+    if (log_type != LOG_TYPE_SYSLOG && load_fp() == nullptr)
+        return;
+
+    LogLockGuard guard;
+    auto found = log_level.find(component);
+    const int threshold = found != log_level.end() ? found->second : DEFAULT_THRESHOLD;
+    if (threshold < level)
+        return;
+
+    int count = 0;
+    switch (log_type) {
+    case LOG_TYPE_SYSLOG:
+        vsyslog(LOG_ERR, format, args);
+        break;
+    case LOG_TYPE_STDOUT:
+    case LOG_TYPE_STDERR:
+    case LOG_TYPE_FILE:
+        if (log_fp != nullptr)
+            count = write_stamped(log_fp, format, args);
+        break;
+    default:
+        vfprintf(stderr, format, args);
+        break;
+    }
+
+    if (log_type == LOG_TYPE_FILE && log_size >= 0 && count >= 0) {
+        log_size += count;
+        if (log_size > MAX_LOG_SIZE) {
+            // Whatever Rotate returns: on failure log_fp is null and nothing
+            // more gets written anyway.
+            Rotate();
+            log_size = 0;
+        }
+    }
+}
+
+int Logger::Rotate()
+{
+    char from[1024];
+    char to[1024];
+    // Missing archives simply fail to rename; ignored.
+    for (int k = rotate_cnt - 2; k >= 0; --k) {
+        archive_name(from, k);
+        archive_name(to, k + 1);
+        rename(from, to);
+    }
+    archive_name(from, rotate_cnt - 1);
+    remove(from);
+
+    // log_fp keeps its (closed) value until the outcome is known: a thread on
+    // the unlocked fast path then waits for the lock and writes to the new
+    // file instead of dropping its message. Nobody dereferences it meanwhile.
+    if (log_fp != nullptr)
+        fclose(log_fp);
+    archive_name(to, 0);
+    if (rename(log_path.c_str_utf8(), to) != 0) {
+        store_fp(nullptr);
+        return -1;
+    }
+    FILE* fp = fopen(log_path.c_str_utf8(), "a");
+    store_fp(fp);
+    return fp != nullptr ? 0 : -1;
+}
+
+void Logger::Destroy()
+{
+    if (log_type != LOG_TYPE_FILE)
+        return;
+    if (log_fp != nullptr)
+        fclose(log_fp);
+    store_fp(stdout);
+    log_size = -1;
+    log_type = LOG_TYPE_STDERR;
+    log_path.clear();
+    rotate_cnt = 32;
+}
+
+void LogMSG_c(int level, const char* component, const char* format, va_list args)
+{
+    Logger::LogMsg2(static_cast<Logger::Level>(level), ustring(component), format, args);
+}

@@ -13,13 +13,15 @@
 
 class Logger {
 public:
-    enum Type {
+    // Fixed underlying type: any int is a valid value (LogMSG_c passes plain ints,
+    // and a type outside the list writes the bare message to standard error).
+    enum Type : int {
         LOG_TYPE_SYSLOG = 1,  // vsyslog, always at priority 3
         LOG_TYPE_STDOUT = 2,
         LOG_TYPE_STDERR = 3,
         LOG_TYPE_FILE = 4,    // file with size accounting and rotation
     };
-    enum Level {
+    enum Level : int {
         LOG_ERROR = 3,
         LOG_WARNING = 4,
         LOG_NOTE = 5,
