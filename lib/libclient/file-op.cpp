@@ -1,1 +1,636 @@
-// to be written
+#include "file-op.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/types.h>
+#include <unistd.h>
+#include <utime.h>
+#include <cerrno>
+#include <climits>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+#include "fsref.h"
+#include "fstype.h"
+#include "log.h"
+#include "tmp_name_gen.h"
+
+// Every message starts with the level word, "file-op" and the line number.
+#define FILE_OP_LOG(level, ...) Logger::LogMsg(Logger::level, "file_op_debug", __VA_ARGS__)
+
+namespace {
+
+const size_t kPathBufferSize = 4096;
+const size_t kCopyBufferSize = 33554432;  // 32 MiB
+const unsigned short kNoMode = 0xFFFF;
+const uint32_t kNoId = UINT32_MAX;
+
+// Owner given to the folders this layer creates; all ones leaves it alone.
+uint32_t uid = kNoId;
+uint32_t gid = kNoId;
+
+// The canonical spelling of an existing path, or a CoreServices-style status.
+OSStatus CanonicalPath(const char* path, char (&buffer)[kPathBufferSize])
+{
+    FSRef ref;
+    OSStatus status = FSPathMakeRef(reinterpret_cast<const unsigned char*>(path), &ref, nullptr);
+    if (status != 0) {
+        return status;
+    }
+    memset(buffer, 0, sizeof(buffer));
+    return FSRefMakePath(&ref, reinterpret_cast<unsigned char*>(buffer), sizeof(buffer));
+}
+
+// -1 for a file kind outside FILE_TYPE.
+int TypeFromMode(mode_t mode)
+{
+    switch (mode & S_IFMT) {
+    case S_IFREG: return FILE_TYPE_REGULAR;
+    case S_IFDIR: return FILE_TYPE_DIR;
+    case S_IFLNK: return FILE_TYPE_LINK;
+    case S_IFCHR:
+    case S_IFBLK: return FILE_TYPE_DEVICE;
+    case S_IFIFO: return FILE_TYPE_FIFO;
+    case S_IFSOCK: return FILE_TYPE_SOCKET;
+    default: return -1;
+    }
+}
+
+int TypeFromDirent(unsigned char dtype)
+{
+    switch (dtype) {
+    case DT_REG: return FILE_TYPE_REGULAR;
+    case DT_DIR: return FILE_TYPE_DIR;
+    case DT_LNK: return FILE_TYPE_LINK;
+    case DT_CHR:
+    case DT_BLK: return FILE_TYPE_DEVICE;
+    case DT_FIFO: return FILE_TYPE_FIFO;
+    case DT_SOCK: return FILE_TYPE_SOCKET;
+    default: return FILE_TYPE_UNKNOWN;
+    }
+}
+
+bool IsDotOrDotDot(const char* name)
+{
+    return strcmp(name, ".") == 0 || strcmp(name, "..") == 0;
+}
+
+// Next entry of a stream, or null at the end or on an error; errno tells the
+// two apart. readdir is safe here: each stream belongs to one call.
+struct dirent* NextEntry(DIR* dir)
+{
+    errno = 0;
+    return readdir(dir);
+}
+
+enum WalkResult { WALK_DONE = 0, WALK_OPEN_FAILED = -1, WALK_STOPPED = 1 };
+
+// Calls visit(entry name) for every entry of folder but "." and ".."; the
+// first nonzero result stops the walk. A read error ends the walk like the end
+// of the listing: whatever is left shows when the caller removes the folder.
+template <typename Visit>
+WalkResult WalkFolder(const ustring& folder, Visit visit)
+{
+    DIR* dir = opendir(folder.c_str());
+    if (dir == nullptr) {
+        return WALK_OPEN_FAILED;
+    }
+    WalkResult result = WALK_DONE;
+    while (struct dirent* entry = NextEntry(dir)) {
+        if (IsDotOrDotDot(entry->d_name)) {
+            continue;
+        }
+        if (visit(entry->d_name) != 0) {
+            result = WALK_STOPPED;
+            break;
+        }
+    }
+    closedir(dir);
+    return result;
+}
+
+// A link cannot be renamed across file systems: make the same link at dst,
+// then drop the source.
+int MoveLinkAcrossDevices(const ustring& src, const ustring& dst)
+{
+    char target[PATH_MAX];
+    ssize_t len = readlink(src.c_str(), target, sizeof(target));
+    if (len < 0 || static_cast<size_t>(len) >= sizeof(target)) {
+        return -3;
+    }
+    target[len] = '\0';
+    if (symlink(target, dst.c_str()) != 0) {
+        return -3;
+    }
+    return remove(src.c_str()) == 0 ? 0 : -3;
+}
+
+int MoveFolderAcrossDevices(const ustring& src, const ustring& dst, bool exact)
+{
+    if (FSMKDir(dst, true) != 0) {
+        return -3;
+    }
+    WalkResult walk = WalkFolder(src, [&](const char* name) {
+        return FSRename(src + "/" + name, dst + "/" + name, exact);
+    });
+    if (walk != WALK_DONE) {
+        return -3;
+    }
+    return remove(src.c_str()) == 0 ? 0 : -3;
+}
+
+// Gives a folder that FSMKDirP made to the configured owner.
+void ApplyOwner(const char* path)
+{
+    if (uid == kNoId && gid == kNoId) {
+        return;
+    }
+    uid_t user = uid == kNoId ? geteuid() : static_cast<uid_t>(uid);
+    gid_t group = gid == kNoId ? getegid() : static_cast<gid_t>(gid);
+    if (chown(path, user, group) != 0) {
+        // Best effort: a folder we cannot give away is still a usable folder.
+    }
+}
+
+}  // namespace
+
+bool operator==(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b)
+{
+    return a.exist == b.exist && a.size == b.size && a.mtime == b.mtime && a.type == b.type &&
+           a.path == b.path && a.alt_path == b.alt_path;
+}
+
+bool operator!=(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b)
+{
+    return !(a == b);
+}
+
+bool IsFileExist(const ustring& path, bool exact)
+{
+    ustring n = path.normalize(ustring::NFC);
+    if (n.empty()) {
+        return false;
+    }
+    bool exists = access(n.c_str(), F_OK) == 0;
+    // A file system that keeps names byte for byte may hold the decomposed
+    // spelling (a home folder made that way): then the given text is the name.
+    bool asGiven = !exists && n != path && access(path.c_str(), F_OK) == 0;
+    if (asGiven) {
+        n = path;
+        exists = true;
+    }
+    if (!exists || !exact) {
+        return exists;
+    }
+
+    FILE_OP_LOG(LOG_DEBUG, "[DEBUG] file-op(%d): Input file path = [%s].\n", __LINE__, n.c_str());
+    char buffer[kPathBufferSize];
+    OSStatus status = CanonicalPath(n.c_str(), buffer);
+    if (status != 0) {
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSPathMakeRef: %d\n", __LINE__, (int)status);
+        return false;
+    }
+    // The spelling found on disk is compared as it is kept there.
+    ustring real = asGiven ? ustring(buffer) : ustring(buffer).normalize(ustring::NFC);
+    FILE_OP_LOG(LOG_DEBUG, "[DEBUG] file-op(%d): FSRefMakePath outTargetPath path = [%s].\n",
+                __LINE__, real.c_str());
+    if (n != real) {
+        return false;
+    }
+    FILE_OP_LOG(LOG_DEBUG, "[DEBUG] file-op(%d): File exist.\n", __LINE__);
+    return true;
+}
+
+int GetFileInfo(const ustring& path, _FILE_INFO_tag& info)
+{
+    struct stat st;
+    if (lstat(path.c_str(), &st) != 0) {
+        if (errno != ENOENT) {
+            return -1;
+        }
+        info.exist = false;
+        info.mtime = time(nullptr);
+        info.path = path;
+        info.size = 0;
+        info.type = FILE_TYPE_REGULAR;
+        info.owner = 0;
+        info.group = 0;
+        info.mode = 0;
+        return 0;
+    }
+    info.exist = true;
+    info.mtime = st.st_mtime;
+    info.path = path;
+    info.size = st.st_size;
+    info.owner = st.st_uid;
+    info.group = st.st_gid;
+    info.mode = static_cast<uint32_t>(st.st_mode);
+    int type = TypeFromMode(st.st_mode);
+    if (type < 0) {
+        return -1;
+    }
+    info.type = type;
+    // Best effort: without a canonical spelling the path stays as given.
+    FSGetRealPath(info.path);
+    return 0;
+}
+
+int FSGetRealPath(ustring& path)
+{
+    FILE_OP_LOG(LOG_DEBUG, "[DEBUG] file-op(%d):  org path [%s]\n", __LINE__, path.c_str());
+    char buffer[kPathBufferSize];
+    if (CanonicalPath(path.c_str(), buffer) != 0) {
+        return -1;
+    }
+    path = buffer;
+    FILE_OP_LOG(LOG_DEBUG, "[DEBUG] file-op(%d):  get full path [%s]\n", __LINE__, path.c_str());
+    return 0;
+}
+
+int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact)
+{
+    if (path.empty()) {
+        return -1;
+    }
+    if (!IsFileExist(path, exact)) {
+        info.exist = false;
+        return 0;
+    }
+    return GetFileInfo(path, info) < 0 ? -2 : 0;
+}
+
+int FSCopy(const ustring& src, const ustring& dst, bool removeSrc)
+{
+    int in = open(src.c_str(), O_RDONLY);
+    if (in < 0) {
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", __LINE__,
+                    src.c_str(), strerror(errno), errno);
+        return -1;
+    }
+    int out = open(dst.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
+    if (out < 0) {
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", __LINE__,
+                    dst.c_str(), strerror(errno), errno);
+        close(in);
+        return -1;
+    }
+
+    int result = 0;
+    char* buffer = static_cast<char*>(malloc(kCopyBufferSize));
+    if (buffer == nullptr) {
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSCopy: malloc(%d): %s (%d)\n", __LINE__,
+                    (int)kCopyBufferSize, strerror(errno), errno);
+        result = -1;
+    }
+    while (buffer != nullptr) {
+        ssize_t got = read(in, buffer, kCopyBufferSize);
+        if (got < 0) {
+            FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: read: %s (%d)\n", __LINE__,
+                        strerror(errno), errno);
+            result = -1;
+            break;
+        }
+        if (got == 0) {
+            if (removeSrc) {
+                close(in);
+                in = -1;
+                result = remove(src.c_str()) == 0 ? 0 : -1;
+            }
+            break;
+        }
+        ssize_t done = 0;
+        while (done < got) {
+            // A zero-byte write sets no errno: do not report a stale one.
+            errno = 0;
+            ssize_t put = write(out, buffer + done, static_cast<size_t>(got - done));
+            if (put <= 0) {
+                FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: write: %s (%d)\n", __LINE__,
+                            strerror(errno), errno);
+                result = (errno == ENOSPC || errno == EDQUOT) ? -2 : -1;
+                break;
+            }
+            done += put;
+        }
+        if (result != 0) {
+            break;
+        }
+    }
+
+    if (in >= 0) {
+        close(in);
+    }
+    // Flush so that a copied file is on disk when we return; a device that
+    // cannot sync is not a failure of the copy.
+    fsync(out);
+    close(out);
+    free(buffer);
+    return result;
+}
+
+int FSRename(const ustring& src, const ustring& dst, bool exact)
+{
+    if (src.empty() || dst.empty()) {
+        return -1;
+    }
+    FILE_INFO info;
+    if (FSStat(src, info, exact) < 0 || !info.exist) {
+        return -2;
+    }
+    if (rename(src.c_str(), dst.c_str()) == 0) {
+        return 0;
+    }
+    if (errno == ENAMETOOLONG) {
+        return -100;
+    }
+    if (errno != EXDEV) {
+        return -3;
+    }
+    // Different file systems: rebuild at dst, then remove the source.
+    switch (info.type) {
+    case FILE_TYPE_REGULAR:
+        return FSCopy(src, dst, true) < 0 ? -3 : 0;
+    case FILE_TYPE_DIR:
+        return MoveFolderAcrossDevices(src, dst, exact);
+    case FILE_TYPE_LINK:
+        return MoveLinkAcrossDevices(src, dst);
+    default:
+        // Devices, FIFOs and sockets cannot be carried over by copying bytes.
+        return -3;
+    }
+}
+
+int FSMKDir(const ustring& path, bool parents)
+{
+    if (path.empty()) {
+        return -1;
+    }
+    FILE_INFO info;
+    if (GetFileInfo(path, info) != 0) {
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSMKDir: Failed to to file info '%s'\n",
+                    __LINE__, path.c_str());
+        return -1;
+    }
+    if (info.exist) {
+        if (info.type == FILE_TYPE_DIR) {
+            return 0;
+        }
+        FILE_OP_LOG(LOG_ERROR,
+                    "[ERROR] file-op(%d): FSMKDir: Create a folder but local file system is not "
+                    "directory '%s' (%d)\n",
+                    __LINE__, path.c_str(), (int)info.type);
+        return -1;
+    }
+    int made = parents ? FSMKDirP(path, nullptr, false, kNoMode) : mkdir(path.c_str(), 0777);
+    if (made != 0) {
+        return -2;
+    }
+    // Logged and ignored by design: the folder exists, the owner is a bonus.
+    FSChown(path);
+    return 0;
+}
+
+int FSMKDirP(const ustring& path, const char** end, bool force, unsigned short mode)
+{
+    if (path.empty()) {
+        return -1;
+    }
+    char* copy = strdup(path.c_str());
+    if (copy == nullptr) {
+        return -1;
+    }
+    mode_t folderMode = 0777;
+    mode_t oldMask = 0;
+    if (mode != kNoMode) {
+        folderMode = mode;
+        oldMask = umask(0);
+    }
+
+    int result = 0;
+    char* cut = copy + (copy[0] == '/' ? 1 : 0);
+    for (;;) {
+        cut += strcspn(cut, "/");
+        bool last = cut[0] == '\0' || cut[1] == '\0';
+        char separator = *cut;
+        *cut = '\0';
+
+        struct stat st;
+        bool exists = stat(copy, &st) == 0;
+        if (exists && !S_ISDIR(st.st_mode)) {
+            if (!force) {
+                errno = last ? EEXIST : ENOTDIR;
+                result = -1;
+            } else if (remove(copy) != 0) {
+                result = -1;
+            } else {
+                exists = false;
+            }
+        }
+        if (result == 0 && !exists) {
+            if (mkdir(copy, folderMode) < 0) {
+                result = -1;
+            } else {
+                ApplyOwner(copy);
+            }
+        }
+
+        *cut = separator;
+        if (result != 0 || last) {
+            break;
+        }
+        ++cut;
+    }
+
+    if (end != nullptr) {
+        *end = path.c_str() + (cut - copy);
+    }
+    int savedErrno = errno;
+    if (mode != kNoMode) {
+        umask(oldMask);
+    }
+    free(copy);
+    errno = savedErrno;
+    return result;
+}
+
+int FSRemove(const ustring& path, bool /*flag*/)
+{
+    if (path.empty()) {
+        return -1;
+    }
+    FILE_INFO info;
+    if (GetFileInfo(path, info) != 0) {
+        return -1;
+    }
+    if (!info.exist) {
+        return 0;
+    }
+    // Links are removed themselves, never followed.
+    if (info.type != FILE_TYPE_DIR) {
+        return remove(path.c_str()) == 0 ? 0 : -3;
+    }
+    WalkResult walk =
+        WalkFolder(path, [&](const char* name) { return FSRemove(path + "/" + name, false); });
+    if (walk != WALK_DONE) {
+        return -3;
+    }
+    return remove(path.c_str()) == 0 ? 0 : -3;
+}
+
+int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& h)
+{
+    DIR* dir = opendir(path.c_str());
+    if (dir == nullptr) {
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSOpenDir: Failed to open directory '%s'. %s\n",
+                    __LINE__, path.c_str(), strerror(errno));
+        return -1;
+    }
+    h.dir = dir;
+    h.path = path;
+    h.flags = flags;
+    return 0;
+}
+
+int FSReadDir(DIR_HANDLE& h, DIR_ENTRY& e)
+{
+    struct dirent* entry = NextEntry(h.dir);
+    if (entry == nullptr) {
+        if (errno == 0) {
+            return 0;
+        }
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSOpenDir: Failed to read directory '%s'. %s\n",
+                    __LINE__, h.path.c_str(), strerror(errno));
+        return -1;
+    }
+
+    e.mtime = 0;
+    e.size = 0;
+    if (h.flags & FS_DIR_WITH_STAT) {
+        ustring full = h.path + "/" + entry->d_name;
+        if (IsDotOrDotDot(entry->d_name)) {
+            // No spelling of these names is canonical: give them the status
+            // of the folder being listed.
+            struct stat st;
+            if (fstat(dirfd(h.dir), &st) != 0) {
+                FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSOpenDir: Failed to get info for '%s'\n",
+                            __LINE__, full.c_str());
+                return -1;
+            }
+            e.mtime = st.st_mtime;
+            e.size = st.st_size;
+        } else {
+            // An entry whose spelling is not canonical (a link, or a listing
+            // opened by a relative path) reads as missing and keeps 0 and 0.
+            FILE_INFO info;
+            info.mtime = 0;
+            info.size = 0;
+            if (FSStat(full, info, true) < 0) {
+                FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSOpenDir: Failed to get info for '%s'\n",
+                            __LINE__, full.c_str());
+                return -1;
+            }
+            if (info.exist) {
+                e.mtime = info.mtime;
+                e.size = info.size;
+            }
+        }
+    }
+    e.name = entry->d_name;
+    e.type = TypeFromDirent(entry->d_type);
+    return 1;
+}
+
+void FSCloseDir(DIR_HANDLE& h)
+{
+    closedir(h.dir);
+    h.dir = nullptr;
+    h.path.clear();
+}
+
+void FSInitialize(unsigned int user, unsigned int group)
+{
+    uid = user;
+    gid = group;
+}
+
+int FSChown(const ustring& path)
+{
+    return chown(path.c_str(), static_cast<uid_t>(uid), static_cast<gid_t>(gid));
+}
+
+int FSInit(const ustring& /*path*/)
+{
+    return 0;
+}
+
+int FSMktemp(const ustring& folder, ustring& out)
+{
+    char name[kPathBufferSize];
+    snprintf(name, sizeof(name), "%s/XXXXXX", folder.c_str());
+    int fd = mkstemp(name);
+    if (fd < 0) {
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): mkstemp(%s): %s\n", __LINE__, name,
+                    strerror(errno));
+        return -1;
+    }
+    fsync(fd);
+    close(fd);
+    out = name;
+    chmod(name, 0644);
+    return 0;
+}
+
+int FSUTime(const ustring& path, long atime, long mtime)
+{
+    struct utimbuf times;
+    times.actime = static_cast<time_t>(atime);
+    times.modtime = static_cast<time_t>(mtime);
+    return utime(path.c_str(), &times) == 0 ? 0 : -1;
+}
+
+bool FSTimeEqual(long a, long b)
+{
+    return a == b;
+}
+
+bool isFileLocked(const ustring& path, int mode)
+{
+    return access(path.c_str(), mode) != 0 && (errno == EACCES || errno == EPERM);
+}
+
+bool isMountPoint(const ustring& path)
+{
+    char type[64];
+    if (FSTypeName(path.c_str(), type, sizeof(type)) != 0) {
+        FILE_OP_LOG(LOG_ERROR,
+                    "[ERROR] file-op(%d): isMountPoint: Failed to get file system info '%s'. %s\n",
+                    __LINE__, path.c_str(), strerror(errno));
+        return false;
+    }
+    return strcmp(type, "nfs") == 0 || strcmp(type, "smbfs") == 0 || strcmp(type, "afpfs") == 0;
+}
+
+bool IsMSDOS(const ustring& path)
+{
+    char type[64];
+    if (FSTypeName(path.c_str(), type, sizeof(type)) != 0) {
+        FILE_OP_LOG(LOG_ERROR,
+                    "[ERROR] file-op(%d): IsSupportLargeFile: Failed to get file system info "
+                    "'%s'. %s\n",
+                    __LINE__, path.c_str(), strerror(errno));
+        return false;
+    }
+    if (strcmp(type, "msdos") != 0) {
+        return false;
+    }
+    FILE_OP_LOG(LOG_WARNING, "[WARNING] file-op(%d): Detect a MSDOS platform for path '%s'.\n",
+                __LINE__, path.c_str());
+    return true;
+}
+
+int FSCreateTempPath(const ustring& folder, ustring& out)
+{
+    out = TmpNameGen::getInstance()->getTmpPath(folder);
+    return out.empty() ? -1 : 0;
+}
