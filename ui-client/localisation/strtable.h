@@ -16,4 +16,10 @@ QString LoadStr(int id);
 int LookupStrID(QString key);
 }
 
+// The resource collection "texts" with the catalogues ":/<code>.qm", made by
+// rcc. Registering twice is harmless; a static initialiser also registers it
+// once this object is linked in.
+int qInitResources_texts();
+int qCleanupResources_texts();
+
 #endif

@@ -1,0 +1,19 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="da_DK" sourcelanguage="en_US">
+<context>
+    <name>global</name>
+    <message>
+        <source>Driftwell is ready.</source>
+        <translation>Driftwell er klar.</translation>
+    </message>
+    <message>
+        <source>Driftwell is initializing...</source>
+        <translation>Driftwell initialiseres...</translation>
+    </message>
+    <message>
+        <source>Driftwell Backup</source>
+        <translation>Talvane Driftwell</translation>
+    </message>
+</context>
+</TS>

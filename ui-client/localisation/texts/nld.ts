@@ -1,0 +1,19 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nl_NL" sourcelanguage="en_US">
+<context>
+    <name>global</name>
+    <message>
+        <source>Driftwell is ready.</source>
+        <translation>Driftwell is gereed.</translation>
+    </message>
+    <message>
+        <source>Driftwell is initializing...</source>
+        <translation>Driftwell wordt geïnitialiseerd...</translation>
+    </message>
+    <message>
+        <source>Driftwell Backup</source>
+        <translation>Talvane Driftwell</translation>
+    </message>
+</context>
+</TS>
