@@ -335,7 +335,12 @@ int FSRename(const ustring& src, const ustring& dst, bool exact)
         return -1;
     }
     FILE_INFO info;
-    if (FSStat(src, info, exact) < 0 || !info.exist) {
+    if (FSStat(src, info, exact) < 0) {
+        return -2;
+    }
+    // The existence check follows links (and the exact one spells a link as
+    // its target): a link that it misses still has a name of its own to move.
+    if (!info.exist && (GetFileInfo(src, info) != 0 || !info.exist || info.type != FILE_TYPE_LINK)) {
         return -2;
     }
     if (rename(src.c_str(), dst.c_str()) == 0) {

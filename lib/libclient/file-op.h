@@ -67,13 +67,16 @@ int FSGetRealPath(ustring& path);
 // 0 (see info.exist; a missing path changes only exist), -1 empty path,
 // -2 status failed.
 int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact);
-// Copies one file's bytes through a 32 MiB buffer and fsyncs the destination.
-// 0, -1 failure, -2 out of space or quota. A partial destination stays.
+// Copies one file's bytes (not its mode, owner or times) through a 32 MiB
+// buffer and fsyncs the destination; with removeSrc the source is removed at
+// the end. 0, -1 failure, -2 out of space or quota. A partial destination stays.
 int FSCopy(const ustring& src, const ustring& dst, bool removeSrc);
 // rename, or across file systems: a file is copied then removed, a folder is
-// moved entry by entry, a symbolic link is recreated then removed; other
-// special files give -3. 0, -1 empty argument, -2 source missing or its status
-// failed, -3 move failed, -100 name too long.
+// moved entry by entry, a symbolic link is recreated (same target text, an
+// existing dst is not replaced) then removed; devices, FIFOs and sockets give
+// -3 and stay. 0, -1 empty argument, -2 source missing or its status failed,
+// -3 move failed (a folder may be partly moved), -100 name too long. A link
+// is moved whether or not its target exists.
 int FSRename(const ustring& src, const ustring& dst, bool exact);
 // 0 created or already a folder (a link to a folder is not), -1 status failed
 // or not a folder, -2 creation failed.
@@ -86,9 +89,14 @@ int FSMKDirP(const ustring& path, const char** end, bool force, unsigned short m
 // followed. 0 removed or absent, -1 empty path or status failed, -3 removal
 // failed (also for a folder that cannot be opened). flag is ignored.
 int FSRemove(const ustring& path, bool flag);
+// 0 and h filled, or -1 with h untouched.
 int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& h);
-// 1 entry read ("." and ".." included), 0 end of listing, -1 error.
+// 1 entry read ("." and ".." included), 0 end of listing, -1 error. With
+// FS_DIR_WITH_STAT, "." and ".." carry the listed folder's own mtime and size;
+// an entry that the exact check does not find under h.path + "/" + name (a
+// link, or a listing opened by a non-canonical path) carries 0 and 0.
 int FSReadDir(DIR_HANDLE& h, DIR_ENTRY& e);
+// Only for a handle that FSOpenDir opened; flags keep their value.
 void FSCloseDir(DIR_HANDLE& h);
 
 void FSInitialize(unsigned int user, unsigned int group);
