@@ -8,8 +8,8 @@
 // Buffers come from realloc/free; a failed allocation throws std::bad_alloc and
 // leaves the buffer being grown as it was. A null pointer argument counts as an
 // empty text. A pointer into this string's own buffer (start or middle) is safe.
-#ifndef USTRING_H
-#define USTRING_H
+#ifndef DW_USTRING_USTRING_H
+#define DW_USTRING_USTRING_H
 
 #include <cstddef>
 #include <iosfwd>
@@ -131,8 +131,19 @@ private:
     void clear_data();
     void clear_wdata() const;
     bool wdata_current() const { return wdata_len != 0 || data_len == 0; }
+    void ensure_wdata() const;
+    bool owns(const char* p) const;
+    bool owns(const unsigned short* w) const;
     ustring& append_bytes(const char* p, size_t n);
     ustring& append_units(const unsigned short* w, size_t n);
+    ustring& commit_units(size_t added);
+    size_t find_seq(const char* s, size_t n, size_t pos) const;
+    size_t rfind_seq(const char* s, size_t n, size_t pos) const;
+    size_t find_set(const char* set, size_t n, size_t pos, bool member) const;
+    size_t rfind_set(const char* set, size_t n, size_t pos, bool member) const;
+    size_t backward_start(size_t pos) const;
+    ustring& ltrim_set(const char* set, size_t n);
+    ustring& rtrim_set(const char* set, size_t n);
 
     char* data;
     size_t data_len;
