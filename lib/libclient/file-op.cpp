@@ -573,9 +573,11 @@ int FSMktemp(const ustring& folder, ustring& out)
 {
     char name[kPathBufferSize];
     snprintf(name, sizeof(name), "%s/XXXXXX", folder.c_str());
+    char pattern[kPathBufferSize];
+    memcpy(pattern, name, sizeof(pattern));  // mkstemp may fill in the X's and still fail
     int fd = mkstemp(name);
     if (fd < 0) {
-        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): mkstemp(%s): %s\n", __LINE__, name,
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): mkstemp(%s): %s\n", __LINE__, pattern,
                     strerror(errno));
         return -1;
     }
