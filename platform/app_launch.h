@@ -2,8 +2,9 @@
 // already running instance to the front. True on success.
 // macOS: the launching service through QDesktopServices::openUrl.
 // Elsewhere: the bundle's Contents/MacOS/<exe_name> is started detached, in its
-// own session, standard streams on /dev/null; false when it is missing or not
-// executable. When known_pid (> 0) already runs that executable, nothing is
+// own session, standard streams on /dev/null, working folder "/"; it is not
+// left as a child of the caller. False when it is missing, not executable or
+// its exec fails. When known_pid (> 0) already runs that executable, nothing is
 // started and the result is true ("bring to front").
 #ifndef PLATFORM_APP_LAUNCH_H
 #define PLATFORM_APP_LAUNCH_H
