@@ -6,9 +6,7 @@
 #include <cstring>
 #include <ctime>
 #include <string>
-#include <thread>
 #include <utility>
-#include <vector>
 
 namespace {
 
@@ -82,23 +80,6 @@ TEST(TmpNameGenTest, NamesAndPathsHaveTheirShape)
     EXPECT_TRUE(IsName(path.substr(14)));
 }
 
-TEST(TmpNameGenTest, NamesFromManyThreads)
-{
-    std::vector<std::thread> threads;
-    std::vector<int> bad(4, 0);
-    for (int t = 0; t < 4; ++t) {
-        threads.emplace_back([t, &bad] {
-            for (int n = 0; n < 500; ++n) {
-                bad[t] += !IsName(TmpNameGen::getInstance()->getTmpName().c_str());
-            }
-        });
-    }
-    for (std::thread& t : threads) {
-        t.join();
-    }
-    EXPECT_EQ(bad, std::vector<int>(4, 0));
-}
-
 TEST(TmpNameGenTest, ClockKeyText)
 {
     unsigned char key[256] = {};
@@ -133,18 +114,6 @@ TEST(TmpNameGenTest, EmptyKeyIsDrawnFromRand)
         return;
     }
     GTEST_SKIP() << "the clock kept turning over a second";
-}
-
-TEST(TmpNameGenTest, RandomizeWritesCountBytesOnly)
-{
-    unsigned char state[256], key[256] = {'k'}, out[4] = {1, 2, 3, 4};
-    TmpNameGen::rc4_init(state, key);
-    TmpNameGen::rc4_randomize(state, out, 0);
-    TmpNameGen::rc4_randomize(state, out, -3);
-    EXPECT_EQ(out[0], 1);
-    TmpNameGen::rc4_randomize(state, out, 2);
-    EXPECT_EQ(out[2], 3);
-    EXPECT_EQ(out[3], 4);
 }
 
 }  // namespace
