@@ -1,1 +1,207 @@
-// to be written
+#include "mac-service.h"
+
+#include <signal.h>
+#include <unistd.h>
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+
+#include <QDir>
+#include <QString>
+
+#include "app_launch.h"
+#include "config.h"
+#include "file-op.h"
+#include "log.h"
+#include "process_identity.h"
+
+namespace {
+
+const char kComponent[] = "service_debug";
+const char kClientExecutable[] = "drift-ui";
+// Probes of the stopped client, one second apart, before SIGKILL.
+const int kStopProbes = 5;
+
+ustring ClientExecutablePath(const ustring& app)
+{
+    return app + "/" + "Contents/MacOS" + "/" + kClientExecutable;
+}
+
+ustring PidFilePath()
+{
+    return Service::GetUserDriftwellInstallPath() + "/ui.pid";
+}
+
+bool IsBlank(char c)
+{
+    return c == ' ' || c == '\t';
+}
+
+// Stricter than atol: a signal must never go to 0, a negative id (a process
+// group) or a number that merely starts with digits.
+pid_t ParsePid(const ustring& text)
+{
+    const char* p = text.c_str();
+    while (IsBlank(*p))
+        ++p;
+    const long max = MaxProcessId();
+    long value = 0;
+    const char* digits = p;
+    for (; *p >= '0' && *p <= '9'; ++p) {
+        value = value * 10 + (*p - '0');
+        if (value > max)
+            return 0;
+    }
+    if (p == digits)
+        return 0;
+    while (IsBlank(*p))
+        ++p;
+    if (*p != '\0')
+        return 0;
+    return static_cast<pid_t>(value);
+}
+
+}  // namespace
+
+MacService::MacService()
+{
+    timeout = 10000;
+    app_path = Service::GetUserDriftwellAppInstallPath();
+}
+
+MacService* MacService::GetInstace()
+{
+    static MacService instance;
+    return &instance;
+}
+
+bool MacService::PerUserBinPathExist()
+{
+    return access(ClientExecutablePath(app_path).c_str(), F_OK) == 0;
+}
+
+void MacService::LoadSourceVerInfo()
+{
+    Service::LoadSourceVersion();
+}
+
+void MacService::LoadTargetVerInfo()
+{
+    Service::LoadTargetVersion();
+}
+
+void MacService::PreUpgrade()
+{
+    Service::LoadTargetVersion();
+    Service::LoadSourceVersion();
+    Logger::LogMsg(Logger::LOG_DEBUG, kComponent,
+                   "[DEBUG] mac/mac-service(%d): Source version: ('%s', '%s')\n", __LINE__,
+                   source_version.build_version.c_str(),
+                   source_version.icon_overlay_version.c_str());
+    Logger::LogMsg(Logger::LOG_DEBUG, kComponent,
+                   "[DEBUG] mac/mac-service(%d): Target version: ('%s', '%s')\n", __LINE__,
+                   target_version.build_version.c_str(),
+                   target_version.icon_overlay_version.c_str());
+}
+
+bool MacService::IsNeedUpgrade()
+{
+    const int source = source_version.build_version.empty()
+                           ? 0
+                           : std::atoi(source_version.build_version.c_str_utf8());
+    const int target = target_version.build_version.empty()
+                           ? 0
+                           : std::atoi(target_version.build_version.c_str_utf8());
+    Logger::LogMsg(Logger::LOG_DEBUG, kComponent,
+                   "[DEBUG] mac/mac-service(%d): source version = %d, target version = %d\n",
+                   __LINE__, source, target);
+    // A copy without its executable is reinstalled even from an older bundle.
+    const bool installed = PerUserBinPathExist();
+    return !installed || target > source;
+}
+
+int MacService::HandlePackageUpgrade()
+{
+    if (PerUserBinPathExist()) {
+        Logger::LogMsg(Logger::LOG_DEBUG, kComponent,
+                       "[DEBUG] mac/mac-service(%d): local appdata exist\n", __LINE__);
+        StopService();
+    }
+    return PrepareUserEnv();
+}
+
+pid_t MacService::ReadPidFile(const ustring& path)
+{
+    Config pid_file;
+    if (pid_file.read(path) < 0)
+        return 0;
+    const auto it = pid_file.entries.find("pid");
+    return it == pid_file.entries.end() ? 0 : ParsePid(it->second);
+}
+
+void MacService::StopService()
+{
+    const ustring pid_path = PidFilePath();
+    if (!IsFileExist(pid_path, false)) {
+        Logger::LogMsg(Logger::LOG_DEBUG, kComponent,
+                       "[DEBUG] mac/mac-service(%d): pid file '%s' does not exist, no need to "
+                       "terminate\n",
+                       __LINE__, pid_path.c_str());
+        return;
+    }
+    const pid_t pid = ReadPidFile(pid_path);
+    if (pid <= 0) {
+        Logger::LogMsg(Logger::LOG_NOTE, kComponent,
+                       "[NOTE] mac/mac-service(%d): Failed to read pid file '%s', not exist ?\n",
+                       __LINE__, pid_path.c_str());
+        return;
+    }
+
+    // The pid file outlives its client; its number may since belong to
+    // anybody. Only the per-user client itself is ever signalled.
+    switch (MatchProcessExecutable(pid, ClientExecutablePath(app_path).c_str())) {
+    case PROCESS_MISSING:
+        return;  // stale pid file: the client has ended already
+    case PROCESS_OTHER:
+        Logger::LogMsg(Logger::LOG_NOTE, kComponent,
+                       "[NOTE] mac/mac-service(%d): pid %d is not the Driftwell UI, not "
+                       "signalled\n",
+                       __LINE__, static_cast<int>(pid));
+        return;
+    case PROCESS_MATCHES:
+        break;
+    }
+
+    if (kill(pid, SIGTERM) != 0) {
+        if (errno == ESRCH)
+            return;
+        // Logged and ignored: the probes and SIGKILL still follow.
+        const int err = errno;
+        Logger::LogMsg(Logger::LOG_ERROR, kComponent, "[ERROR] mac/mac-service(%d): kill: %s (%d)\n",
+                       __LINE__, strerror(err), err);
+    }
+    for (int probe = 0; probe < kStopProbes; ++probe) {
+        if (kill(pid, 0) != 0 && errno == ESRCH)
+            return;
+        sleep(1);
+    }
+    // Unchecked: nothing else could be done about a client that survives it.
+    kill(pid, SIGKILL);
+}
+
+int MacService::LaunchPerUserBin()
+{
+    const QString bundle = QDir::homePath() + "/.Driftwell/Driftwell.app";
+    // Where the desktop does not track running applications itself, the pid
+    // file tells whether the client runs already.
+    return OpenApplicationBundle(bundle, kClientExecutable, ReadPidFile(PidFilePath())) ? 0 : -1;
+}
+
+void MacService::PostUpgrade()
+{
+    if (LaunchPerUserBin() < 0) {
+        // The launcher quits normally all the same; the user can open the client again.
+        Logger::LogMsg(Logger::LOG_ERROR, kComponent,
+                       "[ERROR] mac/mac-service(%d): Failed to launch Driftwell UI\n", __LINE__);
+    }
+}

@@ -20,16 +20,17 @@ public:
     void PreUpgrade() override;
     bool IsNeedUpgrade() override;
 
-    // True when app_path/Contents/MacOS/drift-ui exists.
+    // True when app_path/Contents/MacOS/drift-ui exists (existence only).
     bool PerUserBinPathExist();
     // Opens the per-user bundle (starts the client or brings it to front); 0 or -1.
     int LaunchPerUserBin();
     void LoadSourceVerInfo();
     void LoadTargetVerInfo();
 
-    // The process id in the pid file when it is a whole decimal number in
-    // 1..pid_max, else 0.
-    static pid_t ReadPidFile(const ustring& path, bool* readable);
+    // The "pid" of the pid file when the file reads as a key-value file and the
+    // value is a whole decimal number (blanks around it allowed, no sign) in
+    // 1..MaxProcessId(); 0 otherwise (missing, unreadable, empty, junk, range).
+    static pid_t ReadPidFile(const ustring& path);
 };
 
 #endif
