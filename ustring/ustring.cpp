@@ -20,7 +20,6 @@ namespace {
 // representation, so the buffers are handed over as they are.
 static_assert(sizeof(UChar) == sizeof(unsigned short), "UTF-16 unit size");
 inline UChar* as_uchar(unsigned short* w) { return reinterpret_cast<UChar*>(w); }
-inline const UChar* as_uchar(const unsigned short* w) { return reinterpret_cast<const UChar*>(w); }
 
 // ICU takes int32_t capacities; a larger buffer is simply not used beyond that.
 int32_t icu_capacity(size_t units)
