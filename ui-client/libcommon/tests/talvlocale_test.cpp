@@ -1,5 +1,6 @@
 #include "TalvLocale.h"
 #include "strtable.h"
+#include "texts_app_environment.h"
 
 #include <gtest/gtest.h>
 
@@ -12,26 +13,7 @@
 
 namespace {
 
-class QtAppEnvironment : public ::testing::Environment {
-public:
-    void SetUp() override
-    {
-        static int argc = 1;
-        static char arg0[] = "talvlocale_test";
-        static char* argv[] = {arg0, nullptr};
-        app_ = new QCoreApplication(argc, argv);
-        qInitResources_texts();
-    }
-    void TearDown() override
-    {
-        delete app_;
-        app_ = nullptr;
-    }
-
-private:
-    QCoreApplication* app_ = nullptr;
-};
-::testing::Environment* const qtEnv = ::testing::AddGlobalTestEnvironment(new QtAppEnvironment);
+::testing::Environment* const qtEnv = ::testing::AddGlobalTestEnvironment(new TextsAppEnvironment);
 
 const char kResultTag[] = "language=";
 

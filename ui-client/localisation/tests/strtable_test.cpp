@@ -1,4 +1,5 @@
 #include "strtable.h"
+#include "texts_app_environment.h"
 
 #include <gtest/gtest.h>
 
@@ -13,27 +14,7 @@ namespace {
 const char kReady[] = "Driftwell is ready.";
 const char kInitializing[] = "Driftwell is initializing...";
 
-// Translators and QResource need an application object and the collection.
-class QtAppEnvironment : public ::testing::Environment {
-public:
-    void SetUp() override
-    {
-        static int argc = 1;
-        static char arg0[] = "strtable_test";
-        static char* argv[] = {arg0, nullptr};
-        app_ = new QCoreApplication(argc, argv);
-        qInitResources_texts();
-    }
-    void TearDown() override
-    {
-        delete app_;
-        app_ = nullptr;
-    }
-
-private:
-    QCoreApplication* app_ = nullptr;
-};
-::testing::Environment* const qtEnv = ::testing::AddGlobalTestEnvironment(new QtAppEnvironment);
+::testing::Environment* const qtEnv = ::testing::AddGlobalTestEnvironment(new TextsAppEnvironment);
 
 // Installs a translator for the lifetime of the scope.
 class ScopedTranslator {
