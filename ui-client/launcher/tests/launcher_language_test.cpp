@@ -1,0 +1,57 @@
+// The user interface language follows the environment's locale: the catalogue
+// chosen, and the dialog texts the launcher then shows.
+#include <gtest/gtest.h>
+
+#include "launcher_testkit.h"
+
+namespace {
+
+struct LanguageRow {
+    const char* name;
+    const char* variable;
+    const char* locale;
+    const char* code;
+    const char* preparing;
+    const char* ready;
+};
+
+const LanguageRow kRows[] = {
+    {"german", "LANG", "de_DE.UTF-8", "deu", "Driftwell wird initialisiert...", "Driftwell ist bereit."},
+    {"traditional_chinese", "LC_ALL", "zh_TW.UTF-8", "cht", "Driftwell 正在初始化...",
+     "Driftwell 已準備就緒。"},
+    {"finnish_falls_back", "LANG", "fi_FI.UTF-8", "enu", "Driftwell is initializing...",
+     "Driftwell is ready."},
+    {"c_locale", "LC_ALL", "C", "enu", "Driftwell is initializing...", "Driftwell is ready."},
+};
+
+class LauncherLanguage : public testing::TestWithParam<LanguageRow> {};
+
+TEST_P(LauncherLanguage, DialogSpeaksTheLanguageOfTheEnvironment)
+{
+    const LanguageRow& row = GetParam();
+    TestBundle b;
+    ASSERT_TRUE(b.ok());
+    ASSERT_TRUE(b.setBuild(1, ClientPackage(1)));
+    QProcessEnvironment env = b.environment();
+    env.remove("LANG");
+    env.insert(row.variable, row.locale);
+
+    const RunResult r = b.run(env);
+    ASSERT_TRUE(r.finished) << qPrintable(r.err);
+    EXPECT_EQ(0, r.exit_code);
+    // The language selection traces its choice on standard error.
+    EXPECT_TRUE(r.err.contains(QString("qPrintable(qstrDef)=[") + row.code + "\n]"))
+        << qPrintable(r.err);
+    const QString log = b.log();
+    EXPECT_EQ(1, LinesWith(log, QString("label '") + QString::fromUtf8(row.preparing) + "'").size())
+        << qPrintable(log);
+    EXPECT_EQ(1, LinesWith(log, QString("label '") + QString::fromUtf8(row.ready) + "'").size())
+        << qPrintable(log);
+}
+
+INSTANTIATE_TEST_SUITE_P(Locales, LauncherLanguage, testing::ValuesIn(kRows),
+                         [](const testing::TestParamInfo<LanguageRow>& info) {
+                             return std::string(info.param.name);
+                         });
+
+}  // namespace

@@ -1,0 +1,169 @@
+// The progress dialog on a real X server (our own Xvfb): it is mapped during
+// an upgrade, titled, 400 pixels wide, and a screenshot of it shows text. The
+// screenshot is kept in the build tree for a person to look at.
+#include <gtest/gtest.h>
+
+#include <QColor>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QRect>
+#include <QRegularExpression>
+#include <QSet>
+#include <QThread>
+
+#include "launcher_testkit.h"
+
+namespace {
+
+const char kTitle[] = "Talvane Driftwell";
+
+// An X server of our own on the first free display number from 90 on.
+class Xvfb {
+public:
+    bool start()
+    {
+        for (int n = 90; n < 140; ++n) {
+            if (QFile::exists(QString("/tmp/.X%1-lock").arg(n))
+                || QFile::exists(QString("/tmp/.X11-unix/X%1").arg(n)))
+                continue;
+            display_ = QString(":%1").arg(n);
+            server_.start("Xvfb", {display_, "-screen", "0", "1024x768x24", "-nolisten", "tcp"});
+            if (!server_.waitForStarted(kWaitTimeoutMs))
+                return false;
+            QElapsedTimer timer;
+            timer.start();
+            while (server_.state() == QProcess::Running && timer.elapsed() < kWaitTimeoutMs) {
+                if (QProcess::execute("xdpyinfo", {"-display", display_}) == 0)
+                    return true;
+                QThread::msleep(200);
+            }
+            // Lost a race for this number, or too slow: try the next one.
+            stop();
+        }
+        return false;
+    }
+    void stop()
+    {
+        if (server_.state() != QProcess::NotRunning) {
+            server_.terminate();
+            if (!server_.waitForFinished(kWaitTimeoutMs)) {
+                server_.kill();
+                server_.waitForFinished(kWaitTimeoutMs);
+            }
+        }
+    }
+    ~Xvfb() { stop(); }
+    QString display() const { return display_; }
+
+private:
+    QProcess server_;
+    QString display_;
+};
+
+QString Output(const QString& program, const QStringList& args)
+{
+    QProcess p;
+    p.start(program, args);
+    p.waitForFinished(kWaitTimeoutMs);
+    return QString::fromLocal8Bit(p.readAllStandardOutput());
+}
+
+// The mapped window's rectangle in root coordinates, or an empty one.
+QRect MappedWindow(const QString& display)
+{
+    const QString info = Output("xwininfo", {"-display", display, "-name", kTitle});
+    if (!info.contains("Map State: IsViewable"))
+        return QRect();
+    auto field = [&info](const char* name) {
+        const QRegularExpression re(QString("%1:\\s+(-?\\d+)").arg(name));
+        return re.match(info).captured(1).toInt();
+    };
+    return QRect(field("Absolute upper-left X"), field("Absolute upper-left Y"), field("Width"),
+                 field("Height"));
+}
+
+// Incompressible data behind bzip2: decoding it twice (count, then extract)
+// keeps the dialog up for a few seconds.
+QList<PackageEntry> LargePackage(int build)
+{
+    QList<PackageEntry> entries = ClientPackage(build);
+    for (int i = 0; i < 16; ++i) {
+        QByteArray data(512 * 1024, Qt::Uninitialized);
+        QRandomGenerator::global()->fillRange(reinterpret_cast<quint32*>(data.data()),
+                                              data.size() / 4);
+        entries.insert(1, {QString("Contents/Resources/data-%1.bin").arg(i), data, 0644});
+    }
+    return entries;
+}
+
+bool SomeProgressShown(const TestBundle& b)
+{
+    for (int value : ProgressValues(b.log())) {
+        if (value > 0 && value < 100)
+            return true;
+    }
+    return false;
+}
+
+TEST(LauncherScreen, ProgressDialogIsSeenDuringAnUpgrade)
+{
+    TestBundle b;
+    ASSERT_TRUE(b.ok());
+    Xvfb x;
+    ASSERT_TRUE(x.start()) << "Xvfb did not come up";
+    ASSERT_TRUE(b.setBuild(1, ClientPackage(1)));
+    ASSERT_EQ(0, b.run().exit_code);
+    ASSERT_TRUE(b.setBuild(2, LargePackage(2), "bzip2"));
+
+    QProcessEnvironment env = b.environment();
+    env.remove("QT_QPA_PLATFORM");
+    env.insert("DISPLAY", x.display());
+    env.insert("LANG", "de_DE.UTF-8");
+    QProcess launcher;
+    launcher.setProcessEnvironment(env);
+    launcher.start(b.executable(), QStringList());
+    ASSERT_TRUE(launcher.waitForStarted(kWaitTimeoutMs));
+
+    QRect window;
+    QElapsedTimer timer;
+    timer.start();
+    while (window.isEmpty() && launcher.state() == QProcess::Running
+           && timer.elapsed() < kRunTimeoutMs) {
+        window = MappedWindow(x.display());
+        QThread::msleep(50);
+    }
+    ASSERT_FALSE(window.isEmpty()) << "no mapped window titled " << kTitle << "\n"
+                                   << qPrintable(b.log());
+    EXPECT_EQ(400, window.width());
+    while (!SomeProgressShown(b) && launcher.state() == QProcess::Running
+           && timer.elapsed() < kRunTimeoutMs)
+        QThread::msleep(20);
+
+    ASSERT_TRUE(QDir().mkpath(DW_ARTIFACT_DIR));
+    const QString shot = QString(DW_ARTIFACT_DIR) + "/progress_dialog.png";
+    QFile::remove(shot);
+    EXPECT_EQ(0, QProcess::execute("import", {"-display", x.display(), "-window", "root", shot}));
+    ASSERT_TRUE(launcher.waitForFinished(kRunTimeoutMs));
+    EXPECT_EQ(0, launcher.exitCode());
+    EXPECT_EQ(1, LinesWith(b.log(), "label 'Driftwell ist bereit.'").size()) << qPrintable(b.log());
+
+    const QImage image = QImage(shot).copy(window);
+    ASSERT_FALSE(image.isNull()) << qPrintable(shot);
+    QSet<QRgb> colours;
+    int dark = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int xx = 0; xx < image.width(); ++xx) {
+            const QRgb pixel = image.pixel(xx, y);
+            colours.insert(pixel);
+            dark += qGray(pixel) < 96 ? 1 : 0;
+        }
+    }
+    EXPECT_GT(colours.size(), 1);
+    EXPECT_GT(dark, 100) << "no text in " << qPrintable(shot);
+}
+
+}  // namespace
