@@ -83,6 +83,9 @@ int compare_bytes(const char* a, size_t la, const char* b, size_t lb, size_t n)
 
 size_t text_length(const char* p) { return p ? strlen(p) : 0; }
 
+// A null text argument counts as empty.
+const char* or_empty(const char* p) { return p ? p : ""; }
+
 size_t units_length(const unsigned short* w, size_t n)
 {
     size_t i = 0;
@@ -516,12 +519,12 @@ size_t ustring::rfind_set(const char* set, size_t n, size_t pos, bool member) co
 }
 
 size_t ustring::find(const std::string& s, size_t pos) const { return find(s.c_str(), pos); }
-size_t ustring::find(const char* s, size_t pos) const { return find_seq(s, text_length(s), pos); }
+size_t ustring::find(const char* s, size_t pos) const { return find_seq(or_empty(s), text_length(s), pos); }
 size_t ustring::find(const ustring& s, size_t pos) const { return find_seq(s.data, s.data_len, pos); }
 size_t ustring::find(char c, size_t pos) const { return find_seq(&c, 1, pos); }
 
 size_t ustring::rfind(const std::string& s, size_t pos) const { return rfind(s.c_str(), pos); }
-size_t ustring::rfind(const char* s, size_t pos) const { return rfind_seq(s, text_length(s), pos); }
+size_t ustring::rfind(const char* s, size_t pos) const { return rfind_seq(or_empty(s), text_length(s), pos); }
 size_t ustring::rfind(const ustring& s, size_t pos) const { return rfind_seq(s.data, s.data_len, pos); }
 size_t ustring::rfind(char c, size_t pos) const { return rfind_seq(&c, 1, pos); }
 
@@ -553,41 +556,31 @@ size_t ustring::find_last_not_of(char c, size_t pos) const { return rfind_set(&c
 
 // ---- editing in place -------------------------------------------------------------
 
-ustring& ustring::ltrim_set(const char* set, size_t n)
+// Both ends are found before anything moves, so a set that points into our
+// own text is read as it was when the call began.
+ustring& ustring::trim_set(const char* set, size_t n, bool left, bool right)
 {
-    size_t keep_from = 0;
-    while (keep_from < data_len && in_set(data[keep_from], set, n))
-        ++keep_from;
-    if (keep_from == 0)
+    size_t first = 0;
+    while (left && first < data_len && in_set(data[first], set, n))
+        ++first;
+    size_t last = data_len;
+    while (right && last > first && in_set(data[last - 1], set, n))
+        --last;
+    if (first == 0 && last == data_len)
         return *this;
-    memmove(data, data + keep_from, data_len - keep_from + 1);
-    data_len -= keep_from;
-    clear_wdata();
-    return *this;
-}
-
-ustring& ustring::rtrim_set(const char* set, size_t n)
-{
-    size_t keep = data_len;
-    while (keep > 0 && in_set(data[keep - 1], set, n))
-        --keep;
-    if (keep == data_len)
-        return *this;
-    data_len = keep;
+    memmove(data, data + first, last - first);
+    data_len = last - first;
     data[data_len] = 0;
     clear_wdata();
     return *this;
 }
 
-ustring& ustring::ltrim(const char* set) { return ltrim_set(set, text_length(set)); }
-ustring& ustring::ltrim(const ustring& set) { return ltrim_set(set.data, set.data_len); }
-ustring& ustring::rtrim(const char* set) { return rtrim_set(set, text_length(set)); }
-ustring& ustring::rtrim(const ustring& set) { return rtrim_set(set.data, set.data_len); }
-
-// The set is read again by rtrim; when it is our own text, ltrim has changed
-// it by then (a set of our own text leaves nothing after ltrim anyway).
-ustring& ustring::trim(const char* set) { return ltrim(set).rtrim(set); }
-ustring& ustring::trim(const ustring& set) { return ltrim(set).rtrim(set); }
+ustring& ustring::ltrim(const char* set) { return trim_set(set, text_length(set), true, false); }
+ustring& ustring::ltrim(const ustring& set) { return trim_set(set.data, set.data_len, true, false); }
+ustring& ustring::rtrim(const char* set) { return trim_set(set, text_length(set), false, true); }
+ustring& ustring::rtrim(const ustring& set) { return trim_set(set.data, set.data_len, false, true); }
+ustring& ustring::trim(const char* set) { return trim_set(set, text_length(set), true, true); }
+ustring& ustring::trim(const ustring& set) { return trim_set(set.data, set.data_len, true, true); }
 
 ustring& ustring::replace(char from, char to)
 {

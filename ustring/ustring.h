@@ -142,8 +142,7 @@ private:
     size_t find_set(const char* set, size_t n, size_t pos, bool member) const;
     size_t rfind_set(const char* set, size_t n, size_t pos, bool member) const;
     size_t backward_start(size_t pos) const;
-    ustring& ltrim_set(const char* set, size_t n);
-    ustring& rtrim_set(const char* set, size_t n);
+    ustring& trim_set(const char* set, size_t n, bool left, bool right);
 
     char* data;
     size_t data_len;

@@ -295,6 +295,25 @@ TEST(UstringTest, Trim)
     }
 }
 
+TEST(UstringTest, NullAndOwnTextArguments)
+{
+    const char* none = nullptr;
+    ustring s(none);
+    EXPECT_TRUE(s.empty());
+    s.append("ab").append(none).append(static_cast<const unsigned short*>(nullptr));
+    EXPECT_STREQ(s.c_str(), "ab");
+    EXPECT_EQ(s.find(none, 1), 1u);
+    EXPECT_EQ(s.rfind(none), 1u);
+    EXPECT_EQ(s.find_first_of(none), npos);
+    EXPECT_STREQ(s.trim(none).c_str(), "ab");
+    EXPECT_TRUE(s.assign(none).empty());
+
+    // The set is read as it was before either end was cut.
+    ustring own("xaxbx");
+    own.trim(own.c_str() + 4);
+    EXPECT_STREQ(own.c_str(), "axb");
+}
+
 TEST(UstringTest, ComparisonAndOrder)
 {
     EXPECT_EQ(ustring("abc").compare(ustring("abd")), 'c' - 'd');
