@@ -1,1 +1,229 @@
-// to be written
+#include "extractor.h"
+
+#include <archive.h>
+#include <archive_entry.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <system_error>
+
+#include "log.h"
+#include "notify_adapter.h"
+#include "strtable.h"
+
+namespace {
+
+const char COMPONENT[] = "extractor_debug";
+
+// Read granularity for archive_read_open_filename.
+const size_t BLOCK_SIZE = 10240;
+
+// 0x2210: unlink what is in an entry's place, refuse ".." components, restore
+// Mac metadata. SECURE_SYMLINKS on top: a package entry "lnk -> /elsewhere"
+// followed by "lnk/file" must not write to /elsewhere; together with UNLINK the
+// disk writer removes such an intermediate link instead of following it.
+// Owners, permissions and times are deliberately not restored.
+const int DISK_OPTIONS = ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT |
+                         ARCHIVE_EXTRACT_MAC_METADATA | ARCHIVE_EXTRACT_SECURE_SYMLINKS;
+
+// String table id of "Driftwell is initializing...".
+const int STR_PREPARING = 54;
+
+struct ReadFree {
+    void operator()(archive* a) const { archive_read_free(a); }
+};
+struct WriteFree {
+    void operator()(archive* a) const { archive_write_free(a); }
+};
+using ReadHandle = std::unique_ptr<archive, ReadFree>;
+using WriteHandle = std::unique_ptr<archive, WriteFree>;
+
+// libarchive may have no text for an error; the log gets an empty one then.
+const char* error_text(archive* a)
+{
+    const char* text = archive_error_string(a);
+    return text != nullptr ? text : "";
+}
+
+// A read handle for every format and filter, opened on path; null when it
+// could not be allocated or opened (logged with Count's and List's texts).
+ReadHandle open_for_listing(const ustring& path)
+{
+    ReadHandle reader(archive_read_new());
+    if (!reader) {
+        Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): Allocate archive failed\n", __LINE__);
+        return nullptr;
+    }
+    archive_read_support_filter_all(reader.get());
+    archive_read_support_format_all(reader.get());
+    if (archive_read_open_filename(reader.get(), path.c_str_utf8(), BLOCK_SIZE) != ARCHIVE_OK) {
+        Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n",
+                       __LINE__, error_text(reader.get()));
+        return nullptr;
+    }
+    return reader;
+}
+
+// The folder the entry paths are put below. The disk writer removes every
+// symbolic link it meets on an entry's path (UNLINK with SECURE_SYMLINKS),
+// including links among the destination's own ancestors, so the destination
+// is spelled without links. If it cannot be resolved it is used as given.
+ustring resolved_root(const ustring& dest)
+{
+    std::error_code ignored;
+    const std::filesystem::path resolved = std::filesystem::weakly_canonical(dest.c_str_utf8(), ignored);
+    if (resolved.empty())
+        return dest;
+    return ustring(resolved.string());
+}
+
+}  // namespace
+
+int Extractor::Extract()
+{
+    if (archive_path.empty() || dest_path.empty()) {
+        Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): Invalid Argument\n", __LINE__);
+        return -1;
+    }
+    Logger::LogMsg(Logger::LOG_DEBUG, COMPONENT, "[DEBUG] extractor(%d): decompress from '%s' to '%s'\n", __LINE__,
+                   archive_path.c_str(), dest_path.c_str());
+    Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(STR_PREPARING));
+
+    // Counting first costs a second pass over the archive, but the dialog can
+    // only show a fraction once the total is known.
+    const int total = Count();
+    if (total <= 0) {
+        Logger::LogMsg(Logger::LOG_ERROR, COMPONENT,
+                       "[ERROR] extractor(%d): Failed to calculate total file numbers, ret: %d\n", __LINE__, total);
+        return -1;
+    }
+
+    ReadHandle reader(archive_read_new());
+    if (!reader) {
+        Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): Allocate extractor failed\n", __LINE__);
+        return -1;
+    }
+    WriteHandle writer(archive_write_disk_new());
+    if (!writer) {
+        Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): Allocate extractor failed\n", __LINE__);
+        return -1;
+    }
+    archive_write_disk_set_options(writer.get(), DISK_OPTIONS);
+    archive_read_support_filter_all(reader.get());
+    archive_read_support_format_all(reader.get());
+    if (archive_read_open_filename(reader.get(), archive_path.c_str_utf8(), BLOCK_SIZE) != ARCHIVE_OK) {
+        Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): Failed to read file '%s' ('%s')\n",
+                       __LINE__, archive_path.c_str(), error_text(reader.get()));
+        return -1;
+    }
+
+    const ustring prefix = resolved_root(dest_path) + "/";
+    Notify_Adapter* const notify = Notify_Adapter::GetInstance();
+    for (int done = 1;; ++done) {
+        archive_entry* entry = nullptr;
+        const int r = archive_read_next_header(reader.get(), &entry);
+        if (r == ARCHIVE_EOF)
+            return 0;
+        // A warning here (a name that cannot be converted, say) is as fatal as an error.
+        if (r != ARCHIVE_OK) {
+            Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): archive_read_next_header failed: '%s'\n",
+                           __LINE__, error_text(reader.get()));
+            return -1;
+        }
+        const char* name = archive_entry_pathname(entry);
+        if (name == nullptr) {
+            Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): archive_entry_pathname failed", __LINE__);
+            return -1;
+        }
+        // The stored name is kept as it is: an absolute name lands below the
+        // destination, and the writer refuses a ".." component.
+        archive_entry_set_pathname(entry, (prefix + name).c_str_utf8());
+        // A package's hard links point at its own entries, never at a file of
+        // the working directory; a ".." in the target is refused the same way.
+        if (const char* target = archive_entry_hardlink(entry))
+            archive_entry_set_hardlink(entry, (prefix + target).c_str_utf8());
+
+        // ARCHIVE_WARN covers refused entries (a ".." path, for one): fatal too.
+        if (archive_read_extract2(reader.get(), entry, writer.get()) != ARCHIVE_OK) {
+            Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): archive_read_extract2 failed: '%s'\n",
+                           __LINE__, error_text(writer.get()));
+            return -1;
+        }
+        notify->UpdateProgress(total, done);
+        if (archive_write_finish_entry(writer.get()) != ARCHIVE_OK) {
+            Logger::LogMsg(Logger::LOG_ERROR, COMPONENT,
+                           "[ERROR] extractor(%d): archive_write_finish_entry failed: '%s'\n", __LINE__,
+                           error_text(writer.get()));
+            return -1;
+        }
+    }
+}
+
+int Extractor::Count()
+{
+    if (dest_path.empty() || archive_path.empty()) {
+        Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): Invalid argument\n", __LINE__);
+        return -1;
+    }
+    ReadHandle reader = open_for_listing(archive_path);
+    if (!reader)
+        return -1;
+
+    // Any error ends the count with what was counted so far; Extract meets the
+    // same error again in its own pass and reports it there.
+    int n = 0;
+    archive_entry* entry = nullptr;
+    while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
+        ++n;
+        archive_read_data_skip(reader.get());
+    }
+    return n;
+}
+
+int Extractor::List()
+{
+    if (dest_path.empty() || archive_path.empty()) {
+        Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): Invalid argument\n", __LINE__);
+        return -1;
+    }
+    ReadHandle reader = open_for_listing(archive_path);
+    if (!reader)
+        return -1;
+
+    archive_entry* entry = nullptr;
+    while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
+        const char* name = archive_entry_pathname(entry);
+        printf("%s\n", name != nullptr ? name : "");
+        fflush(stdout);
+        archive_read_data_skip(reader.get());
+    }
+    archive_read_close(reader.get());
+    return 0;
+}
+
+int Extractor::copy_data(struct archive* ar, struct archive* aw)
+{
+    if (ar == nullptr || aw == nullptr) {
+        Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): Invalid Argument\n", __LINE__);
+        return -1;
+    }
+    for (;;) {
+        const void* buffer = nullptr;
+        size_t size = 0;
+        la_int64_t offset = 0;
+        const int r = archive_read_data_block(ar, &buffer, &size, &offset);
+        if (r == ARCHIVE_EOF)
+            return 0;
+        if (r != ARCHIVE_OK) {
+            Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): archive_read_data_block failed: '%s'\n",
+                           __LINE__, error_text(ar));
+            return -1;
+        }
+        if (archive_write_data_block(aw, buffer, size, offset) != ARCHIVE_OK) {
+            Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): archive_write_data_block failed: '%s'\n",
+                           __LINE__, error_text(aw));
+            return -1;
+        }
+    }
+}

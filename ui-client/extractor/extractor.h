@@ -1,8 +1,11 @@
 // Extractor: unpacks a package archive below dest_path with libarchive,
 // reporting (total, done) after every entry through Notify_Adapter.
-// Every entry path, and every hard-link target, is put below dest_path; an
-// entry with a ".." component or one reaching through a symbolic link is
-// refused and stops the extraction. Entries written before a failure stay.
+// Every entry path, and every hard-link target, is put below dest_path (an
+// absolute name too); an entry or hard-link target with a ".." component is
+// refused and stops the extraction. A symbolic link that stands in the way of
+// a later entry is replaced by a folder, never followed. An existing file at
+// an entry's place is replaced, an existing folder kept. Entries written
+// before a failure stay on disk.
 #ifndef EXTRACTOR_H
 #define EXTRACTOR_H
 
