@@ -2,6 +2,7 @@
 // takes the file whole or leaves nothing, and every stored entry obeys the
 // format's character rules.
 #include "config.h"
+#include "fuzz_check.h"
 
 #include <unistd.h>
 
@@ -11,14 +12,6 @@
 #include <cstring>
 #include <filesystem>
 #include <string>
-
-#define CHECK(cond)                                                                                    \
-    do {                                                                                               \
-        if (!(cond)) {                                                                                 \
-            fprintf(stderr, "%s:%d: check failed: %s\n", __FILE__, __LINE__, #cond);                   \
-            abort();                                                                                   \
-        }                                                                                              \
-    } while (0)
 
 namespace {
 

@@ -1,24 +1,15 @@
 // Fuzzes ustring against std::string where the two agree, and its own
 // invariants where they do not (UTF-16 cache, normalisation, self-append).
+#include "fuzz_check.h"
 #include "ustring.h"
 
 #include <fuzzer/FuzzedDataProvider.h>
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <iostream>
 #include <stdexcept>
 #include <string>
-
-#define CHECK(cond)                                                                                    \
-    do {                                                                                               \
-        if (!(cond)) {                                                                                 \
-            fprintf(stderr, "%s:%d: check failed: %s\n", __FILE__, __LINE__, #cond);                   \
-            abort();                                                                                   \
-        }                                                                                              \
-    } while (0)
 
 namespace {
 
