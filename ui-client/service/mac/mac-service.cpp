@@ -159,7 +159,8 @@ void MacService::StopService()
 
     // The pid file outlives its client; its number may since belong to
     // anybody. Only the per-user client itself is ever signalled.
-    switch (MatchProcessExecutable(pid, ClientExecutablePath(app_path).c_str())) {
+    const ustring exe = ClientExecutablePath(app_path);
+    switch (MatchProcessExecutable(pid, exe.c_str())) {
     case PROCESS_MISSING:
         return;  // stale pid file: the client has ended already
     case PROCESS_OTHER:
@@ -183,10 +184,15 @@ void MacService::StopService()
     for (int probe = 0; probe < kStopProbes; ++probe) {
         if (kill(pid, 0) != 0 && errno == ESRCH)
             return;
+        // Ended but not reaped yet (a zombie answers the probe), or the number
+        // has already gone to another process: either way the client is gone.
+        if (MatchProcessExecutable(pid, exe.c_str()) != PROCESS_MATCHES)
+            return;
         sleep(1);
     }
     // Unchecked: nothing else could be done about a client that survives it.
-    kill(pid, SIGKILL);
+    if (ProcessRunsExecutable(pid, exe.c_str()))
+        kill(pid, SIGKILL);
 }
 
 int MacService::LaunchPerUserBin()

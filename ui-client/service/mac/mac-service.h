@@ -13,7 +13,8 @@ public:
 
     // Stops the running client UI through ~/.Driftwell/ui.pid: SIGTERM, five
     // one-second probes, SIGKILL. Only a process that runs the per-user client
-    // executable is ever signalled.
+    // executable is ever signalled; a pid file naming anything else is logged
+    // and left alone. Reports nothing: the upgrade goes on in every case.
     void StopService() override;
     int HandlePackageUpgrade() override;
     void PostUpgrade() override;
