@@ -66,7 +66,7 @@ timer=$build/bench/startup/startup_timer
 
 echo "== No-upgrade launch, offscreen"
 export QT_QPA_PLATFORM=offscreen
-"$launcher" >/dev/null # installs and starts the client
+"$launcher" >/dev/null 2>&1 # installs and starts the client
 wait_for_client >/dev/null
 "$timer" "$runs" --name launcher -- "$launcher" \; --name floor -- "$floor" \;
 

@@ -1,4 +1,5 @@
-// The packer run as the build runs it, its packages read back with libarchive.
+// The packer run as the build runs it, its packages read back with libarchive,
+// and the demo bundle that the build assembled.
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -11,7 +12,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QImage>
 #include <QProcess>
+#include <QSettings>
 #include <QTemporaryDir>
 
 namespace {
@@ -143,6 +146,23 @@ TEST(MakePackage, LeavesNoPackageWhenItCannotPack)
     ASSERT_TRUE(QFile::remove(root + "/Contents/Resources/INFO"));
     EXPECT_EQ(2, Pack("tar", package, root));
     EXPECT_EQ(QStringList{"root"}, QDir(dir.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot));
+}
+
+// What the launcher reads from its bundle, and a package whose record equals
+// the bundle's, so that the launch after an installation upgrades nothing.
+TEST(DemoBundle, CarriesWhatTheLauncherReads)
+{
+    const QString resources = DW_BUNDLE_DIR "/Contents/Resources";
+    EXPECT_EQ(QSize(72, 72), QImage(resources + "/images/ico_72_driftwell.png").size());
+    QSettings info(resources + "/INFO", QSettings::IniFormat);
+    EXPECT_GT(info.value("Version/build_version").toInt(), 0);
+    EXPECT_FALSE(QDir(DW_BUNDLE_DIR "/Contents/Frameworks/plugins/platforms").isEmpty());
+
+    const Read package = ReadBack(resources + "/package/driftwell.tpk");
+    ASSERT_FALSE(package.names.empty());
+    EXPECT_EQ("Contents/Resources/INFO", package.names.back());
+    EXPECT_EQ(ReadFile(resources + "/INFO").toStdString(), package.info);
+    EXPECT_TRUE(package.client_mode & S_IXUSR);
 }
 
 }  // namespace
