@@ -91,15 +91,23 @@ struct FormatCase {
     int filter;
 };
 
-class MakePackageFormat : public ::testing::TestWithParam<FormatCase> {};
+// A fresh temporary folder with a staged per-user bundle in it.
+class MakePackage : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(dir.isValid());
+        StageBundle(root);
+    }
+    QTemporaryDir dir;
+    const QString root = dir.path() + "/root";
+    const QString package = dir.path() + "/driftwell.tpk";
+};
+
+class MakePackageFormat : public MakePackage, public ::testing::WithParamInterface<FormatCase> {};
 
 TEST_P(MakePackageFormat, WritesSortedEntriesWithTheVersionRecordLast)
 {
-    QTemporaryDir dir;
-    ASSERT_TRUE(dir.isValid());
-    const QString root = dir.path() + "/root";
-    StageBundle(root);
-    const QString package = dir.path() + "/driftwell.tpk";
     ASSERT_EQ(0, Pack(GetParam().format, package, root));
 
     const Read read = ReadBack(package);
@@ -134,14 +142,8 @@ INSTANTIATE_TEST_SUITE_P(
                       FormatCase{"Zip", "zip", ARCHIVE_FORMAT_ZIP, ARCHIVE_FILTER_NONE}),
     [](const auto& info) { return std::string(info.param.name); });
 
-TEST(MakePackage, LeavesNoPackageWhenItCannotPack)
+TEST_F(MakePackage, LeavesNoPackageWhenItCannotPack)
 {
-    QTemporaryDir dir;
-    ASSERT_TRUE(dir.isValid());
-    const QString root = dir.path() + "/root";
-    StageBundle(root);
-    const QString package = dir.path() + "/driftwell.tpk";
-
     EXPECT_EQ(1, Pack("rar", package, root));
     ASSERT_TRUE(QFile::remove(root + "/Contents/Resources/INFO"));
     EXPECT_EQ(2, Pack("tar", package, root));
