@@ -2,9 +2,6 @@
 // Contents/MacOS, with HOME pointing into a fresh temporary folder; copies of
 // fake_client play the per-user drift-ui. Results come back as the driver's
 // output, the log file and what is on disk.
-#include <algorithm>
-#include <chrono>
-
 #include <archive.h>
 #include <archive_entry.h>
 #include <fcntl.h>
@@ -13,7 +10,9 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <climits>
 #include <csignal>
 #include <cstdio>
@@ -131,7 +130,7 @@ void WriteArchive(const std::string& path, const std::vector<Entry>& entries, bo
 
 bool IsGone(pid_t pid)
 {
-    if (kill(pid, 0) != 0 && errno == ESRCH)
+    if (pid <= 0 || (kill(pid, 0) != 0 && errno == ESRCH))
         return true;
     // An orphan that ended may wait a moment for init to reap it.
     const std::string stat = ReadFile("/proc/" + std::to_string(pid) + "/stat");
