@@ -13,6 +13,50 @@
 # sandbox home in a temporary folder; stops every process it started.
 # BUILD_DIR picks the build folder (default: build).
 set -euo pipefail
+
+# Whether process $1 runs (a zombie no longer counts).
+alive() {
+  local state
+  state=$(sed 's/.*) \(.\).*/\1/' "/proc/$1/stat" 2>/dev/null || true)
+  [ -n "$state" ] && [ "$state" != Z ]
+}
+
+# The pid of the client that the pid file names, if that process runs.
+client_pid() {
+  local pid
+  pid=$(sed -n 's/^pid=\([0-9][0-9]*\)$/\1/p' "$HOME/.Driftwell/ui.pid" 2>/dev/null | head -n 1)
+  [ -n "$pid" ] && [ "$pid" -gt 0 ] && alive "$pid" && echo "$pid"
+  return 0
+}
+
+wait_for_client() {
+  for _ in $(seq 100); do
+    [ -n "$(client_pid)" ] && return 0
+    sleep 0.1
+  done
+  echo "bench: the launcher did not start the client; log: $HOME/.Driftwell/log/launcher.log" >&2
+  return 1
+}
+
+stop_client() {
+  local pid
+  pid=$(client_pid)
+  [ -n "$pid" ] && kill "$pid" 2>/dev/null || return 0
+  for _ in $(seq 250); do
+    alive "$pid" || return 0
+    sleep 0.02
+  done
+}
+
+# Run before each timed upgrade: stop the client that the last launch started
+# and make the installed copy one that the bundle's build supersedes.
+if [ "${1:-}" = --age-installed-copy ]; then
+  wait_for_client
+  stop_client
+  sed -i 's/^build_version=.*/build_version=0/' "$HOME/.Driftwell/Driftwell.app/Contents/Resources/INFO"
+  exit 0
+fi
+
 cd "$(dirname "$0")/../.."
 top=$(pwd)
 runs=${1:-41}
@@ -23,33 +67,12 @@ cmake -S . -B "$build" -DDW_BENCH=ON >/dev/null
 cmake --build "$build" --target bundle qapp_floor startup_timer -j"$(nproc 2>/dev/null || echo 2)" >/dev/null
 
 work=$(mktemp -d "${TMPDIR:-/tmp}/dw-startup.XXXXXX")
+# The sandbox home comes first: cleanup stops the client that it names.
+export HOME=$work/home TMPDIR=$work/tmp
+mkdir -p "$HOME" "$TMPDIR"
 xvfb_pid=""
-
-# The pid of the client that the pid file names, if that process still runs.
-client_pid() {
-  local pid state
-  pid=$(sed -n 's/^pid=\([0-9][0-9]*\)$/\1/p' "$HOME/.Driftwell/ui.pid" 2>/dev/null | head -n 1)
-  [ -n "$pid" ] && [ "$pid" -gt 0 ] || return 0
-  state=$(sed 's/.*) \(.\).*/\1/' "/proc/$pid/stat" 2>/dev/null || true)
-  [ -n "$state" ] && [ "$state" != Z ] && echo "$pid"
-  return 0
-}
-
-wait_for_client() {
-  local pid
-  for _ in $(seq 100); do
-    pid=$(client_pid)
-    [ -n "$pid" ] && { echo "$pid"; return 0; }
-    sleep 0.1
-  done
-  echo "bench: the launcher did not start the client; log: $HOME/.Driftwell/log/launcher.log" >&2
-  return 1
-}
-
 cleanup() {
-  local pid
-  pid=$(client_pid)
-  [ -n "$pid" ] && kill "$pid" 2>/dev/null
+  stop_client
   [ -n "$xvfb_pid" ] && kill "$xvfb_pid" 2>/dev/null && wait "$xvfb_pid" 2>/dev/null
   rm -rf "$work"
 }
@@ -57,8 +80,6 @@ trap cleanup EXIT
 
 cp -a "$build/Driftwell.app" "$work/"
 rm -rf "$work/Driftwell.app/log"
-export HOME=$work/home TMPDIR=$work/tmp
-mkdir -p "$HOME" "$TMPDIR"
 launcher=$work/Driftwell.app/Contents/MacOS/launcher
 package=$work/Driftwell.app/Contents/Resources/package/driftwell.tpk
 floor=$build/bench/startup/qapp_floor
@@ -67,7 +88,7 @@ timer=$build/bench/startup/startup_timer
 echo "== No-upgrade launch, offscreen"
 export QT_QPA_PLATFORM=offscreen
 "$launcher" >/dev/null 2>&1 # installs and starts the client
-wait_for_client >/dev/null
+wait_for_client
 "$timer" "$runs" --name launcher -- "$launcher" \; --name floor -- "$floor" \;
 
 echo "== No-upgrade launch, Xvfb"
@@ -86,26 +107,11 @@ export DISPLAY=$display
 echo "== Upgrade of the demo package ($(stat -c %s "$package") bytes), offscreen, against bsdtar -xf"
 export QT_QPA_PLATFORM=offscreen
 unset DISPLAY
-# Before each upgrade: stop the client that the last launch started and make
-# the installed copy one that the bundle's build supersedes.
-cat >"$work/older.sh" <<'EOF'
-set -e
-i=0
-while [ ! -s "$HOME/.Driftwell/ui.pid" ] && [ $i -lt 100 ]; do sleep 0.05; i=$((i + 1)); done
-pid=$(sed -n 's/^pid=\([0-9][0-9]*\)$/\1/p' "$HOME/.Driftwell/ui.pid")
-if [ -n "$pid" ] && [ "$pid" -gt 0 ] && kill "$pid" 2>/dev/null; then
-  i=0
-  while [ -d "/proc/$pid" ] && [ "$(sed 's/.*) \(.\).*/\1/' "/proc/$pid/stat" 2>/dev/null)" != Z ] && [ $i -lt 250 ]; do
-    sleep 0.02; i=$((i + 1))
-  done
-fi
-sed -i 's/^build_version=.*/build_version=0/' "$HOME/.Driftwell/Driftwell.app/Contents/Resources/INFO"
-EOF
 upgrade_runs=$(( (runs + 1) / 2 ))
 "$timer" "$upgrade_runs" \
-  --name upgrade --prepare "sh '$work/older.sh'" -- "$launcher" \; \
+  --name upgrade --prepare "bash '$top/bench/startup/run.sh' --age-installed-copy" -- "$launcher" \; \
   --name bsdtar --prepare "rm -rf '$work/x' && mkdir '$work/x'" -- "$(command -v bsdtar)" -xf "$package" -C "$work/x" \;
-# Each upgrade must have put the bundle's record back in place.
-wait_for_client >/dev/null
+# The last upgrade must have put the bundle's record in place.
+wait_for_client
 cmp -s "$work/Driftwell.app/Contents/Resources/INFO" "$HOME/.Driftwell/Driftwell.app/Contents/Resources/INFO" ||
   { echo "bench: the last launch did not upgrade the installed copy" >&2; exit 1; }
