@@ -274,6 +274,7 @@ int main(int argc, char** argv)
            static_cast<double>(self.ru_maxrss) / 1024.0);
 
     Bench bench(data, bin, expected);
-    const bool ok = bench.measure("tmpfs", argv[3], atoi(argv[4])) && bench.measure("main disk", argv[2], atoi(argv[5]));
+    const bool ok =
+        bench.measure("tmpfs", argv[3], atoi(argv[4])) && bench.measure("main disk", argv[2], atoi(argv[5]));
     return ok ? 0 : 1;
 }

@@ -249,7 +249,8 @@ void build(Package& p)
         if (i < 8) {
             p.folder(version + "/Headers");
             for (size_t h = 0, n = rng.range(30, 50); h < n; ++h)
-                p.file(version + "/Headers/" + name + "_" + std::to_string(h) + ".h", p.text(rng.range(1 * KiB, 10 * KiB)));
+                p.file(version + "/Headers/" + name + "_" + std::to_string(h) + ".h",
+                       p.text(rng.range(1 * KiB, 10 * KiB)));
         }
         p.symlink(fw + "/Versions/Current", "A");
     }
@@ -272,7 +273,8 @@ void build(Package& p)
         p.folder(lproj);
         p.file(lproj + "/Localizable.strings", p.text(rng.range(20 * KiB, 40 * KiB)));
         p.file(lproj + "/InfoPlist.strings", p.text(rng.range(200, 600)));
-        p.file(std::string("Contents/Resources/translations/drift_") + lang + ".qm", p.text(rng.range(60 * KiB, 140 * KiB)));
+        p.file(std::string("Contents/Resources/translations/drift_") + lang + ".qm",
+               p.text(rng.range(60 * KiB, 140 * KiB)));
     }
 
     p.folder("Contents/Resources/images");
@@ -295,7 +297,8 @@ void build(Package& p)
             const std::string dir = module + "/part" + std::to_string(s);
             p.folder(dir);
             for (size_t k = 0, n = rng.range(13, 26); k < n; ++k)
-                p.file(dir + "/View" + std::to_string(k) + (k % 4 == 0 ? ".js" : ".qml"), p.text(rng.range(300, 6 * KiB)));
+                p.file(dir + "/View" + std::to_string(k) + (k % 4 == 0 ? ".js" : ".qml"),
+                       p.text(rng.range(300, 6 * KiB)));
         }
     }
 }

@@ -3,6 +3,7 @@
 #include <archive.h>
 #include <archive_entry.h>
 
+#include <cstdarg>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -39,6 +40,17 @@ struct WriteFree {
 using ReadHandle = std::unique_ptr<archive, ReadFree>;
 using WriteHandle = std::unique_ptr<archive, WriteFree>;
 
+// Logs an error under our component; the result is the failure result, -1.
+int fail(const char* format, ...) __attribute__((format(printf, 1, 2)));
+int fail(const char* format, ...)
+{
+    va_list args;
+    va_start(args, format);
+    Logger::LogMsg2(Logger::LOG_ERROR, COMPONENT, format, args);
+    va_end(args);
+    return -1;
+}
+
 // libarchive may have no text for an error; the log gets an empty one then.
 const char* error_text(archive* a)
 {
@@ -46,23 +58,38 @@ const char* error_text(archive* a)
     return text != nullptr ? text : "";
 }
 
-// A read handle for every format and filter, opened on path; null when it
-// could not be allocated or opened (logged with Count's and List's texts).
-ReadHandle open_for_listing(const ustring& path)
+// Every filter and every format; libarchive's result of opening path.
+int open_reader(archive* reader, const ustring& path)
 {
+    archive_read_support_filter_all(reader);
+    archive_read_support_format_all(reader);
+    return archive_read_open_filename(reader, path.c_str_utf8(), BLOCK_SIZE);
+}
+
+// The headers-only pass of Count and List: visit(entry) for every entry, its
+// data skipped. Any error ends the pass with what was seen so far (Extract
+// meets the same error in its own pass and reports it there). -1, logged, on
+// an empty path or an archive that cannot be opened; else the entries seen.
+template <typename Visit>
+int walk_headers(const ustring& dest_path, const ustring& archive_path, Visit visit)
+{
+    if (dest_path.empty() || archive_path.empty())
+        return fail("[ERROR] extractor(%d): Invalid argument\n", __LINE__);
     ReadHandle reader(archive_read_new());
-    if (!reader) {
-        Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): Allocate archive failed\n", __LINE__);
-        return nullptr;
+    if (!reader)
+        return fail("[ERROR] extractor(%d): Allocate archive failed\n", __LINE__);
+    if (open_reader(reader.get(), archive_path) != ARCHIVE_OK)
+        return fail("[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n",
+                    __LINE__, error_text(reader.get()));
+    int n = 0;
+    archive_entry* entry = nullptr;
+    while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
+        ++n;
+        visit(entry);
+        archive_read_data_skip(reader.get());
     }
-    archive_read_support_filter_all(reader.get());
-    archive_read_support_format_all(reader.get());
-    if (archive_read_open_filename(reader.get(), path.c_str_utf8(), BLOCK_SIZE) != ARCHIVE_OK) {
-        Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n",
-                       __LINE__, error_text(reader.get()));
-        return nullptr;
-    }
-    return reader;
+    archive_read_close(reader.get());
+    return n;
 }
 
 // The folder the entry paths are put below. The disk writer removes every
@@ -82,10 +109,8 @@ ustring resolved_root(const ustring& dest)
 
 int Extractor::Extract()
 {
-    if (archive_path.empty() || dest_path.empty()) {
-        Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): Invalid Argument\n", __LINE__);
-        return -1;
-    }
+    if (archive_path.empty() || dest_path.empty())
+        return fail("[ERROR] extractor(%d): Invalid Argument\n", __LINE__);
     Logger::LogMsg(Logger::LOG_DEBUG, COMPONENT, "[DEBUG] extractor(%d): decompress from '%s' to '%s'\n", __LINE__,
                    archive_path.c_str(), dest_path.c_str());
     Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(STR_PREPARING));
@@ -93,30 +118,19 @@ int Extractor::Extract()
     // Counting first costs a second pass over the archive, but the dialog can
     // only show a fraction once the total is known.
     const int total = Count();
-    if (total <= 0) {
-        Logger::LogMsg(Logger::LOG_ERROR, COMPONENT,
-                       "[ERROR] extractor(%d): Failed to calculate total file numbers, ret: %d\n", __LINE__, total);
-        return -1;
-    }
+    if (total <= 0)
+        return fail("[ERROR] extractor(%d): Failed to calculate total file numbers, ret: %d\n", __LINE__, total);
 
     ReadHandle reader(archive_read_new());
-    if (!reader) {
-        Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): Allocate extractor failed\n", __LINE__);
-        return -1;
-    }
+    if (!reader)
+        return fail("[ERROR] extractor(%d): Allocate extractor failed\n", __LINE__);
     WriteHandle writer(archive_write_disk_new());
-    if (!writer) {
-        Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): Allocate extractor failed\n", __LINE__);
-        return -1;
-    }
+    if (!writer)
+        return fail("[ERROR] extractor(%d): Allocate extractor failed\n", __LINE__);
     archive_write_disk_set_options(writer.get(), DISK_OPTIONS);
-    archive_read_support_filter_all(reader.get());
-    archive_read_support_format_all(reader.get());
-    if (archive_read_open_filename(reader.get(), archive_path.c_str_utf8(), BLOCK_SIZE) != ARCHIVE_OK) {
-        Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): Failed to read file '%s' ('%s')\n",
-                       __LINE__, archive_path.c_str(), error_text(reader.get()));
-        return -1;
-    }
+    if (open_reader(reader.get(), archive_path) != ARCHIVE_OK)
+        return fail("[ERROR] extractor(%d): Failed to read file '%s' ('%s')\n",
+                    __LINE__, archive_path.c_str(), error_text(reader.get()));
 
     const ustring prefix = resolved_root(dest_path) + "/";
     Notify_Adapter* const notify = Notify_Adapter::GetInstance();
@@ -126,16 +140,12 @@ int Extractor::Extract()
         if (r == ARCHIVE_EOF)
             return 0;
         // A warning here (a name that cannot be converted, say) is as fatal as an error.
-        if (r != ARCHIVE_OK) {
-            Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): archive_read_next_header failed: '%s'\n",
-                           __LINE__, error_text(reader.get()));
-            return -1;
-        }
+        if (r != ARCHIVE_OK)
+            return fail("[ERROR] extractor(%d): archive_read_next_header failed: '%s'\n",
+                        __LINE__, error_text(reader.get()));
         const char* name = archive_entry_pathname(entry);
-        if (name == nullptr) {
-            Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): archive_entry_pathname failed", __LINE__);
-            return -1;
-        }
+        if (name == nullptr)
+            return fail("[ERROR] extractor(%d): archive_entry_pathname failed", __LINE__);
         // The stored name is kept as it is: an absolute name lands below the
         // destination, and the writer refuses a ".." component.
         archive_entry_set_pathname(entry, (prefix + name).c_str_utf8());
@@ -145,69 +155,35 @@ int Extractor::Extract()
             archive_entry_set_hardlink(entry, (prefix + target).c_str_utf8());
 
         // ARCHIVE_WARN covers refused entries (a ".." path, for one): fatal too.
-        if (archive_read_extract2(reader.get(), entry, writer.get()) != ARCHIVE_OK) {
-            Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): archive_read_extract2 failed: '%s'\n",
-                           __LINE__, error_text(writer.get()));
-            return -1;
-        }
+        if (archive_read_extract2(reader.get(), entry, writer.get()) != ARCHIVE_OK)
+            return fail("[ERROR] extractor(%d): archive_read_extract2 failed: '%s'\n",
+                        __LINE__, error_text(writer.get()));
         notify->UpdateProgress(total, done);
-        if (archive_write_finish_entry(writer.get()) != ARCHIVE_OK) {
-            Logger::LogMsg(Logger::LOG_ERROR, COMPONENT,
-                           "[ERROR] extractor(%d): archive_write_finish_entry failed: '%s'\n", __LINE__,
-                           error_text(writer.get()));
-            return -1;
-        }
+        if (archive_write_finish_entry(writer.get()) != ARCHIVE_OK)
+            return fail("[ERROR] extractor(%d): archive_write_finish_entry failed: '%s'\n",
+                        __LINE__, error_text(writer.get()));
     }
 }
 
 int Extractor::Count()
 {
-    if (dest_path.empty() || archive_path.empty()) {
-        Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): Invalid argument\n", __LINE__);
-        return -1;
-    }
-    ReadHandle reader = open_for_listing(archive_path);
-    if (!reader)
-        return -1;
-
-    // Any error ends the count with what was counted so far; Extract meets the
-    // same error again in its own pass and reports it there.
-    int n = 0;
-    archive_entry* entry = nullptr;
-    while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
-        ++n;
-        archive_read_data_skip(reader.get());
-    }
-    return n;
+    return walk_headers(dest_path, archive_path, [](archive_entry*) {});
 }
 
 int Extractor::List()
 {
-    if (dest_path.empty() || archive_path.empty()) {
-        Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): Invalid argument\n", __LINE__);
-        return -1;
-    }
-    ReadHandle reader = open_for_listing(archive_path);
-    if (!reader)
-        return -1;
-
-    archive_entry* entry = nullptr;
-    while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
+    const int n = walk_headers(dest_path, archive_path, [](archive_entry* entry) {
         const char* name = archive_entry_pathname(entry);
         printf("%s\n", name != nullptr ? name : "");
         fflush(stdout);
-        archive_read_data_skip(reader.get());
-    }
-    archive_read_close(reader.get());
-    return 0;
+    });
+    return n < 0 ? -1 : 0;
 }
 
 int Extractor::copy_data(struct archive* ar, struct archive* aw)
 {
-    if (ar == nullptr || aw == nullptr) {
-        Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): Invalid Argument\n", __LINE__);
-        return -1;
-    }
+    if (ar == nullptr || aw == nullptr)
+        return fail("[ERROR] extractor(%d): Invalid Argument\n", __LINE__);
     for (;;) {
         const void* buffer = nullptr;
         size_t size = 0;
@@ -215,15 +191,9 @@ int Extractor::copy_data(struct archive* ar, struct archive* aw)
         const int r = archive_read_data_block(ar, &buffer, &size, &offset);
         if (r == ARCHIVE_EOF)
             return 0;
-        if (r != ARCHIVE_OK) {
-            Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): archive_read_data_block failed: '%s'\n",
-                           __LINE__, error_text(ar));
-            return -1;
-        }
-        if (archive_write_data_block(aw, buffer, size, offset) != ARCHIVE_OK) {
-            Logger::LogMsg(Logger::LOG_ERROR, COMPONENT, "[ERROR] extractor(%d): archive_write_data_block failed: '%s'\n",
-                           __LINE__, error_text(aw));
-            return -1;
-        }
+        if (r != ARCHIVE_OK)
+            return fail("[ERROR] extractor(%d): archive_read_data_block failed: '%s'\n", __LINE__, error_text(ar));
+        if (archive_write_data_block(aw, buffer, size, offset) != ARCHIVE_OK)
+            return fail("[ERROR] extractor(%d): archive_write_data_block failed: '%s'\n", __LINE__, error_text(aw));
     }
 }

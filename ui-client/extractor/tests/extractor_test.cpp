@@ -308,8 +308,9 @@ TEST_F(ExtractorTest, ReplacesFilesAndKeepsFolders)
     fs::create_directory(dest + "/dir");
     write_file(dest + "/dir/keep", "kept");
 
-    const Outcome out = run(make({{Entry::Folder, "dir", ""}, {Entry::File, "dir/new", "n"}, {Entry::File, "f", "new"}}),
-                            dest);
+    const std::string archive =
+        make({{Entry::Folder, "dir", ""}, {Entry::File, "dir/new", "n"}, {Entry::File, "f", "new"}});
+    const Outcome out = run(archive, dest);
     EXPECT_EQ(out.result, 0);
     EXPECT_EQ(tree(dest), (Tree{{"dir", "dir"}, {"dir/keep", "file:kept"}, {"dir/new", "file:n"}, {"f", "file:new"}}));
     EXPECT_EQ(read_file(outside), "old");
@@ -325,7 +326,8 @@ TEST_F(ExtractorTest, HardLinksResolveInsideTheDestination)
     const fs::path previous = fs::current_path();
     fs::current_path(cwd);
 
-    const std::string linked = make({{Entry::File, "a", "package"}, {Entry::Hardlink, "sub/h", "a"}}, Packing::Tar, "1.tpk");
+    const std::string linked =
+        make({{Entry::File, "a", "package"}, {Entry::Hardlink, "sub/h", "a"}}, Packing::Tar, "1.tpk");
     const Outcome good = run(linked, dest);
     EXPECT_EQ(good.result, 0);
     EXPECT_EQ(tree(dest), (Tree{{"a", "file:package"}, {"sub", "dir"}, {"sub/h", "file:package"}}));
@@ -335,7 +337,8 @@ TEST_F(ExtractorTest, HardLinksResolveInsideTheDestination)
     fs::remove_all(dest);
     fs::create_directory(dest);
     log_start_ = read_file(log_path_).size();
-    const std::string escaping = make({{Entry::File, "a", "package"}, {Entry::Hardlink, "h", "../cwd/a"}}, Packing::Tar, "2.tpk");
+    const std::string escaping =
+        make({{Entry::File, "a", "package"}, {Entry::Hardlink, "h", "../cwd/a"}}, Packing::Tar, "2.tpk");
     const Outcome bad = run(escaping, dest);
     fs::current_path(previous);
     EXPECT_EQ(bad.result, -1);
