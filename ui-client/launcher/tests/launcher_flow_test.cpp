@@ -72,6 +72,7 @@ TEST(LauncherFlow, DamagedPackageRollsBackThenAGoodOneUpgrades)
     QList<PackageEntry> damaged = ClientPackage(2);
     damaged.insert(1, {"Contents/Resources/large.bin", QByteArray(256 * 1024, 'x'), 0644});
     ASSERT_TRUE(b.setDamagedBuild(2, damaged, 64 * 1024));
+    ASSERT_TRUE(QDir().mkpath(b.userDir() + "/app/old"));
     int offset = b.log().size();
     const RunResult failed = b.run();
     ASSERT_TRUE(failed.finished) << qPrintable(failed.err);
@@ -81,6 +82,7 @@ TEST(LauncherFlow, DamagedPackageRollsBackThenAGoodOneUpgrades)
         << qPrintable(log);
     EXPECT_EQ(installed, FileTree(b.userApp()));
     EXPECT_FALSE(QDir(b.userApp() + "_tmp").exists());
+    EXPECT_FALSE(QDir(b.userDir() + "/app").exists());  // on the failure path too
     EXPECT_TRUE(b.waitForClientEvent("term 1"));
     EXPECT_TRUE(b.waitForClientEvent("start 1", 2));  // the old client again
 

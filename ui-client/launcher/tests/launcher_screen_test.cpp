@@ -21,28 +21,27 @@ namespace {
 
 const char kTitle[] = "Talvane Driftwell";
 
-// An X server of our own on the first free display number from 90 on.
+// An X server of our own. It picks a free display number itself and tells
+// us through -displayfd, so parallel tests cannot race for one.
 class Xvfb {
 public:
     bool start()
     {
-        for (int n = 90; n < 140; ++n) {
-            if (QFile::exists(QString("/tmp/.X%1-lock").arg(n))
-                || QFile::exists(QString("/tmp/.X11-unix/X%1").arg(n)))
-                continue;
-            display_ = QString(":%1").arg(n);
-            server_.start("Xvfb", {display_, "-screen", "0", "1024x768x24", "-nolisten", "tcp"});
-            if (!server_.waitForStarted(kWaitTimeoutMs))
-                return false;
-            QElapsedTimer timer;
-            timer.start();
-            while (server_.state() == QProcess::Running && timer.elapsed() < kWaitTimeoutMs) {
-                if (Answers())
-                    return true;
-                QThread::msleep(200);
-            }
-            // Lost a race for this number, or too slow: try the next one.
-            stop();
+        server_.setStandardErrorFile(QProcess::nullDevice());
+        server_.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1024x768x24", "-nolisten", "tcp"});
+        QElapsedTimer timer;
+        timer.start();
+        while (!server_.canReadLine() && timer.elapsed() < kWaitTimeoutMs)
+            server_.waitForReadyRead(1000);
+        bool number = false;
+        const int n = QString::fromLatin1(server_.readLine()).trimmed().toInt(&number);
+        if (!number)
+            return false;
+        display_ = QString(":%1").arg(n);
+        while (timer.elapsed() < kWaitTimeoutMs) {
+            if (Answers())
+                return true;
+            QThread::msleep(200);
         }
         return false;
     }
