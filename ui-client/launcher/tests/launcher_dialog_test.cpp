@@ -70,9 +70,11 @@ TEST(LauncherDialog, MadeOnDemandThenFollowsReportsAndCloses)
         EXPECT_EQ(row.value, dialog->value()) << row.name;
         EXPECT_TRUE(dialog->isVisible()) << row.name;
     }
-    std::thread([] { Notify_Adapter::GetInstance()->UpdateDialogText("next step"); }).join();
+    const QString wide = QString("a label far wider than the dialog ").repeated(8);
+    std::thread([&] { Notify_Adapter::GetInstance()->UpdateDialogText(wide); }).join();
     QCoreApplication::processEvents();
-    EXPECT_EQ("next step", dialog->labelText());
+    EXPECT_EQ(wide, dialog->labelText());
+    EXPECT_EQ(400, dialog->width());
 
     launcher.Run();
     ASSERT_TRUE(QMetaObject::invokeMethod(&launcher, "LaunchDone"));
