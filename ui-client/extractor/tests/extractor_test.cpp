@@ -101,6 +101,13 @@ protected:
         ASSERT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, log_path_.c_str(), levels.c_str(), 50), 0);
     }
 
+    static void TearDownTestSuite()
+    {
+        Logger::Destroy();
+        delete log_dir_;
+        delete app_;
+    }
+
     void SetUp() override
     {
         ASSERT_TRUE(tmp_.isValid());
@@ -155,7 +162,7 @@ protected:
         std::vector<std::string> lines;
         std::istringstream in(read_file(log_path_).substr(log_start_));
         for (std::string line; std::getline(in, line);) {
-            std::string text = line.substr(16);  // "%b %d %H:%M:%S "
+            std::string text = line.size() > 16 ? line.substr(16) : line;  // "%b %d %H:%M:%S "
             const size_t open = text.find("] extractor(");
             const size_t close = text.find(')', open);
             if (open != std::string::npos && close != std::string::npos)
