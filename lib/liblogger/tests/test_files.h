@@ -11,17 +11,15 @@
 
 class TempDir {
 public:
-    TempDir()
+    TempDir() : path_((std::filesystem::temp_directory_path() / "logger-test-XXXXXX").string())
     {
-        std::string pattern = (std::filesystem::temp_directory_path() / "logger-test-XXXXXX").string();
-        if (mkdtemp(pattern.data()) != nullptr)
-            path_ = pattern;
+        if (mkdtemp(path_.data()) == nullptr)
+            path_.clear();
     }
     ~TempDir()
     {
         std::error_code ignored;
-        if (!path_.empty())
-            std::filesystem::remove_all(path_, ignored);
+        std::filesystem::remove_all(path_, ignored);
     }
     TempDir(const TempDir&) = delete;
     TempDir& operator=(const TempDir&) = delete;
@@ -40,12 +38,9 @@ inline void write_file(const std::string& path, const std::string& content)
 
 inline std::string read_file(const std::string& path)
 {
-    std::ifstream in(path, std::ios::binary);
     std::ostringstream out;
-    out << in.rdbuf();
+    out << std::ifstream(path, std::ios::binary).rdbuf();
     return out.str();
 }
-
-inline bool exists(const std::string& path) { return std::filesystem::exists(path); }
 
 #endif
