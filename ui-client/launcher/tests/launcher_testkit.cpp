@@ -12,7 +12,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QThread>
 
 namespace {
@@ -40,8 +39,6 @@ QByteArray ReadFile(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-}  // namespace
-
 QByteArray ClientScript(int build, ClientKind kind)
 {
     const QByteArray on_term = kind == ClientKind::ExitsOnTerm ? "; exit 0" : "";
@@ -51,9 +48,30 @@ QByteArray ClientScript(int build, ClientKind kind)
            "echo \"start " + QByteArray::number(build) + " $$\" >> \"$here/clients.log\"\n"
            "trap 'echo \"term " + QByteArray::number(build) + " $$\" >> \"$here/clients.log\""
            + on_term + "' TERM\n"
-           "i=0\n"
-           "while [ $i -lt 600 ]; do sleep 1; i=$((i + 1)); done\n";
+           "for i in $(seq 600); do sleep 1; done\n";
 }
+
+bool WritePackage(const QString& file, const QList<PackageEntry>& entries)
+{
+    struct archive* a = archive_write_new();
+    bool ok = archive_write_set_format_pax_restricted(a) == ARCHIVE_OK
+              && archive_write_open_filename(a, QFile::encodeName(file).constData()) == ARCHIVE_OK;
+    for (const PackageEntry& e : entries) {
+        struct archive_entry* entry = archive_entry_new();
+        archive_entry_set_pathname(entry, e.path.toUtf8().constData());
+        archive_entry_set_filetype(entry, AE_IFREG);
+        archive_entry_set_perm(entry, e.mode);
+        archive_entry_set_size(entry, e.data.size());
+        ok = ok && archive_write_header(a, entry) == ARCHIVE_OK
+             && archive_write_data(a, e.data.constData(), e.data.size()) == e.data.size();
+        archive_entry_free(entry);
+    }
+    ok = archive_write_close(a) == ARCHIVE_OK && ok;
+    archive_write_free(a);
+    return ok;
+}
+
+}  // namespace
 
 QByteArray InfoRecord(int build)
 {
@@ -74,36 +92,10 @@ QList<PackageEntry> ClientPackage(int build, int filler_count, ClientKind kind)
     return entries;
 }
 
-bool WritePackage(const QString& file, const QList<PackageEntry>& entries, const QString& filter)
-{
-    struct archive* a = archive_write_new();
-    if (a == nullptr)
-        return false;
-    bool ok = archive_write_set_format_pax_restricted(a) == ARCHIVE_OK
-              && (filter.isEmpty()
-                  || archive_write_add_filter_by_name(a, filter.toUtf8().constData()) == ARCHIVE_OK)
-              && archive_write_open_filename(a, QFile::encodeName(file).constData()) == ARCHIVE_OK;
-    for (const PackageEntry& e : entries) {
-        if (!ok)
-            break;
-        struct archive_entry* entry = archive_entry_new();
-        archive_entry_set_pathname(entry, e.path.toUtf8().constData());
-        archive_entry_set_filetype(entry, AE_IFREG);
-        archive_entry_set_perm(entry, e.mode);
-        archive_entry_set_size(entry, e.data.size());
-        ok = archive_write_header(a, entry) == ARCHIVE_OK
-             && archive_write_data(a, e.data.constData(), e.data.size()) == e.data.size();
-        archive_entry_free(entry);
-    }
-    ok = archive_write_close(a) == ARCHIVE_OK && ok;
-    archive_write_free(a);
-    return ok;
-}
-
 TestBundle::TestBundle()
 {
     EnsureCoreApplication();
-    if (!dir_.isValid() || !QDir().mkpath(home()))
+    if (!dir_.isValid() || !QDir().mkpath(dir_.path() + "/home"))
         return;
     // cp -a keeps the plug-in links and the launcher's mode.
     if (QProcess::execute("cp", {"-a", DW_BUNDLE_DIR, bundle()}) != 0)
@@ -116,7 +108,7 @@ TestBundle::~TestBundle()
 {
     // Clients run detached from their launcher; only those started from this
     // test's folder are ours.
-    const QByteArray mine = QFile::encodeName(root());
+    const QByteArray mine = QFile::encodeName(dir_.path());
     const QStringList pids = QDir("/proc").entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     for (const QString& name : pids) {
         bool number = false;
@@ -128,17 +120,10 @@ TestBundle::~TestBundle()
     }
 }
 
-bool TestBundle::setBuild(int build, const QList<PackageEntry>& package, const QString& filter)
+bool TestBundle::setBuild(int build, const QList<PackageEntry>& package)
 {
-    const QString resources = bundle() + "/Contents/Resources";
-    return WriteFile(resources + "/INFO", InfoRecord(build))
-           && WritePackage(resources + "/package/driftwell.tpk", package, filter);
-}
-
-bool TestBundle::setDamagedBuild(int build, const QList<PackageEntry>& package, qint64 bytes_kept)
-{
-    QFile file(bundle() + "/Contents/Resources/package/driftwell.tpk");
-    return setBuild(build, package) && file.size() > bytes_kept && file.resize(bytes_kept);
+    return WriteFile(bundle() + "/Contents/Resources/INFO", InfoRecord(build))
+           && WritePackage(this->package(), package);
 }
 
 QProcessEnvironment TestBundle::environment() const
@@ -148,7 +133,7 @@ QProcessEnvironment TestBundle::environment() const
         if (key == "LANG" || key == "LANGUAGE" || key.startsWith("LC_"))
             env.remove(key);
     }
-    env.insert("HOME", home());
+    env.insert("HOME", dir_.path() + "/home");
     env.insert("LANG", "C");
     env.insert("QT_QPA_PLATFORM", "offscreen");
     return env;
@@ -159,16 +144,12 @@ RunResult TestBundle::run(const QProcessEnvironment& env, const QString& program
 {
     QProcess process;
     process.setProcessEnvironment(env);
-    if (!working_dir.isEmpty())
-        process.setWorkingDirectory(working_dir);
+    process.setWorkingDirectory(working_dir);
     process.start(program.isEmpty() ? executable() : program, QStringList());
     RunResult result;
+    // One that does not end in time is killed with the QProcess.
     result.finished = process.waitForFinished(kRunTimeoutMs)
                       && process.exitStatus() == QProcess::NormalExit;
-    if (!result.finished) {
-        process.kill();
-        process.waitForFinished(kWaitTimeoutMs);
-    }
     result.exit_code = process.exitCode();
     result.out = QString::fromUtf8(process.readAllStandardOutput());
     result.err = QString::fromUtf8(process.readAllStandardError());
@@ -180,34 +161,17 @@ QString TestBundle::log() const
     return QString::fromUtf8(ReadFile(userDir() + "/log/launcher.log"));
 }
 
-QStringList TestBundle::clientEvents() const
-{
-    return QString::fromUtf8(ReadFile(userDir() + "/clients.log")).split('\n', Qt::SkipEmptyParts);
-}
-
-bool TestBundle::waitForClientEvent(const QString& line, int times) const
+bool TestBundle::waitForClientEvent(const QString& event, int times) const
 {
     QElapsedTimer timer;
     timer.start();
     do {
-        int seen = 0;
-        for (const QString& event : clientEvents())
-            seen += event.startsWith(line + " ") ? 1 : 0;
-        if (seen >= times)
+        const QString events = QString::fromUtf8(ReadFile(userDir() + "/clients.log"));
+        if (LinesWith(events, event + " ").size() >= times)
             return true;
         QThread::msleep(100);
     } while (timer.elapsed() < kWaitTimeoutMs);
     return false;
-}
-
-QStringList LinesWith(const QString& text, const QString& needle)
-{
-    QStringList lines;
-    for (const QString& line : text.split('\n')) {
-        if (line.contains(needle))
-            lines.append(line);
-    }
-    return lines;
 }
 
 QMap<QString, QByteArray> FileTree(const QString& dir)
@@ -219,16 +183,4 @@ QMap<QString, QByteArray> FileTree(const QString& dir)
         tree.insert(QDir(dir).relativeFilePath(path), ReadFile(path));
     }
     return tree;
-}
-
-QList<int> ProgressValues(const QString& log)
-{
-    QList<int> values;
-    const QRegularExpression progress("\\[DEBUG\\] launcher\\(\\d+\\): progress (\\d+)$");
-    for (const QString& line : log.split('\n')) {
-        const QRegularExpressionMatch match = progress.match(line);
-        if (match.hasMatch())
-            values.append(match.captured(1).toInt());
-    }
-    return values;
 }

@@ -7,26 +7,24 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 #include <QCoreApplication>
 
 class TextsAppEnvironment : public ::testing::Environment {
 public:
     void SetUp() override
     {
-        static int argc = 1;
-        static char arg0[] = "texts_test";
-        static char* argv[] = {arg0, nullptr};
-        app_ = new QCoreApplication(argc, argv);
+        app_ = std::make_unique<QCoreApplication>(argc_, argv_);
         qInitResources_texts();
     }
-    void TearDown() override
-    {
-        delete app_;
-        app_ = nullptr;
-    }
+    void TearDown() override { app_.reset(); }
 
 private:
-    QCoreApplication* app_ = nullptr;
+    int argc_ = 1;
+    char arg0_[11] = "texts_test";
+    char* argv_[2] = {arg0_, nullptr};
+    std::unique_ptr<QCoreApplication> app_;
 };
 
 #endif
