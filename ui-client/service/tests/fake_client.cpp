@@ -1,9 +1,7 @@
-// Plays drift-ui for the service tests: records its start, writes
-// $HOME/.Driftwell/ui.pid and waits for signals.
-//   mode "term"   (default): on SIGTERM writes $HOME/sigterm-received, exits 0
-//   mode "ignore":            on SIGTERM writes the marker and keeps running
-// The mode is the first argument, else $DW_FAKE_CLIENT_MODE (the launch
-// passes no arguments). It dies by itself after two minutes.
+// Plays drift-ui for the service tests: writes $HOME/.Driftwell/ui.pid and
+// waits for signals. On SIGTERM it writes $HOME/sigterm-received and exits,
+// or, with DW_FAKE_CLIENT_MODE=ignore, keeps running (the launch passes no
+// arguments). It dies by itself after two minutes.
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -28,57 +26,28 @@ void OnTerm(int)
         _exit(0);
 }
 
-std::string LinkTarget(const std::string& link)
-{
-    char target[PATH_MAX];
-    ssize_t n = readlink(link.c_str(), target, sizeof target);
-    return n < 0 ? "none" : std::string(target, static_cast<size_t>(n));
-}
-
-std::string FdTarget(int fd)
-{
-    return LinkTarget("/proc/self/fd/" + std::to_string(fd));
-}
-
 }  // namespace
 
-int main(int argc, char** argv)
+int main()
 {
     const char* home = getenv("HOME");
+    const char* mode = getenv("DW_FAKE_CLIENT_MODE");
     if (home == nullptr)
         return 2;
-    const char* mode = argc > 1 ? argv[1] : getenv("DW_FAKE_CLIENT_MODE");
     g_exit_on_term = mode == nullptr || strcmp(mode, "ignore") != 0;
     snprintf(g_marker, sizeof g_marker, "%s/sigterm-received", home);
     signal(SIGTERM, OnTerm);
     alarm(120);
 
+    // Written whole, then renamed: a reader never sees half a number.
     const std::string base = std::string(home) + "/.Driftwell";
     mkdir(base.c_str(), 0755);
-    // What a detached start must look like: own session, streams on /dev/null,
-    // no descriptor inherited beyond them (3 is the one reading this list).
-    FILE* starts = fopen((std::string(home) + "/client-starts").c_str(), "a");
-    if (starts != nullptr) {
-        int extra = 0;
-        for (int fd = 3; fd < 1024; ++fd) {
-            if (fcntl(fd, F_GETFD) >= 0 && fd != fileno(starts))
-                ++extra;
-        }
-        fprintf(starts, "pid=%d sid=%d stdin=%s stdout=%s stderr=%s extra_fds=%d cwd=%s\n",
-                static_cast<int>(getpid()), static_cast<int>(getsid(0)), FdTarget(0).c_str(),
-                FdTarget(1).c_str(), FdTarget(2).c_str(), extra,
-                LinkTarget("/proc/self/cwd").c_str());
-        fclose(starts);
-    }
-
-    // Written whole, then renamed: a reader never sees half a number.
-    const std::string tmp = base + "/ui.pid.tmp";
-    FILE* pid_file = fopen(tmp.c_str(), "w");
+    FILE* pid_file = fopen((base + "/ui.pid.tmp").c_str(), "w");
     if (pid_file == nullptr)
         return 3;
     fprintf(pid_file, "pid=%d\n", static_cast<int>(getpid()));
     fclose(pid_file);
-    if (rename(tmp.c_str(), (base + "/ui.pid").c_str()) != 0)
+    if (rename((base + "/ui.pid.tmp").c_str(), (base + "/ui.pid").c_str()) != 0)
         return 4;
     for (;;)
         pause();
