@@ -159,7 +159,9 @@ protected:
         WriteFile(bundle_ + "/log/launcher.debug",
                   "service_debug=7\nextractor_debug=7\nfile_op_debug=7\n");
         ASSERT_TRUE(QDir().mkpath(QString::fromStdString(home_)));
-        setenv("HOME", home_.c_str(), 1);  // for the driver and the clients
+        // For the driver and the clients.
+        setenv("HOME", home_.c_str(), 1);
+        setenv("DW_FAKE_CLIENT_MODE", "term", 1);
     }
 
     void TearDown() override
@@ -365,10 +367,9 @@ TEST_F(ServiceTest, StopSignalsOnlyAPidFileNamingTheClient)
         EXPECT_FALSE(IsGone(client));
         EXPECT_FALSE(Exists(home_ + "/sigterm-received"));
     }
-    int status;
-    EXPECT_EQ(waitpid(other, &status, WNOHANG), 0) << "sleep was signalled";
+    EXPECT_EQ(waitpid(other, nullptr, WNOHANG), 0) << "sleep was signalled";
     kill(other, SIGKILL);
-    waitpid(other, &status, 0);
+    waitpid(other, nullptr, 0);
 }
 
 TEST_F(ServiceTest, StopAsAnotherUserThanTheClient)
