@@ -25,13 +25,12 @@ std::u16string utf16_of(const ustring& s) { return reinterpret_cast<const char16
 size_t warnings(const std::string& call)
 {
     std::istringstream in(testing::internal::GetCapturedStderr());
-    const std::string format = "Warning: " + call + ": error code %d at line %d%c";
+    const std::string format = "Warning: " + call + ": error code %*d at line %d%c";
     size_t count = 0;
     for (std::string l; std::getline(in, l); ++count) {
-        int code = 0;
         int line = 0;
         char rest = 0;
-        EXPECT_EQ(std::sscanf(l.c_str(), format.c_str(), &code, &line, &rest), 2) << l;
+        EXPECT_EQ(std::sscanf(l.c_str(), format.c_str(), &line, &rest), 1) << l;
         EXPECT_GT(line, 0) << l;
     }
     return count;

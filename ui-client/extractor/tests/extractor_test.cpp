@@ -90,14 +90,6 @@ Tree tree(const std::string& root)
 using Pairs = std::vector<std::pair<int, int>>;
 using Lines = std::vector<std::string>;
 
-Pairs pairs(int total, int count)
-{
-    Pairs out;
-    for (int i = 1; i <= count; ++i)
-        out.emplace_back(total, i);
-    return out;
-}
-
 struct Outcome {
     int result = 0;
     std::vector<QString> texts;
@@ -252,7 +244,10 @@ TEST_F(ExtractorTest, ReportsEachEntryWrittenAndStopsAtADotDot)
         const size_t written = row.percent.size();
         EXPECT_EQ(out.result, written < row.entries.size() ? -1 : 0);
         EXPECT_EQ(out.texts, std::vector<QString>{kInitializing});
-        EXPECT_EQ(out.progress, pairs(static_cast<int>(row.entries.size()), static_cast<int>(written)));
+        Pairs progress;
+        for (size_t done = 1; done <= written; ++done)
+            progress.emplace_back(static_cast<int>(row.entries.size()), static_cast<int>(done));
+        EXPECT_EQ(out.progress, progress);
         EXPECT_EQ(out.percent, row.percent);
         Lines log = {started(archive, dest)};
         if (written < row.entries.size())
