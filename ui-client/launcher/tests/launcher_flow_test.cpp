@@ -23,8 +23,7 @@ TEST(LauncherFlow, InstallsOnFirstStartAndLaterOnlyStartsTheClient)
     ASSERT_TRUE(b.setBuild(3, package));
 
     const RunResult first = b.run();
-    ASSERT_TRUE(first.finished) << qPrintable(first.err);
-    EXPECT_EQ(0, first.exit_code);
+    ASSERT_TRUE(first.exited_with_zero) << qPrintable(first.err);
     for (const PackageEntry& e : package)
         EXPECT_EQ(e.data, FileTree(b.userApp()).value(e.path)) << qPrintable(e.path);
     const QString log = b.log();
@@ -46,8 +45,7 @@ TEST(LauncherFlow, InstallsOnFirstStartAndLaterOnlyStartsTheClient)
     ASSERT_TRUE(b.waitForClientEvent("term 3"));
     ASSERT_TRUE(QDir().mkpath(b.userDir() + "/app/old/Contents"));
     const RunResult second = b.run(b.environment(), "./launcher", b.bundle() + "/Contents/MacOS");
-    ASSERT_TRUE(second.finished) << qPrintable(second.err);
-    EXPECT_EQ(0, second.exit_code);
+    ASSERT_TRUE(second.exited_with_zero) << qPrintable(second.err);
     EXPECT_TRUE(second.out.startsWith("lib path = '../Frameworks/plugins'\n")) << qPrintable(second.out);
     const QString again = b.log().mid(log.size());
     EXPECT_EQ(1, LinesWith(again, "no need to upgrade").size()) << qPrintable(again);
@@ -61,7 +59,7 @@ TEST(LauncherFlow, DamagedPackageRollsBackThenAGoodOneUpgrades)
     TestBundle b;
     ASSERT_TRUE(b.ok());
     ASSERT_TRUE(b.setBuild(1, ClientPackage(1, 1)));
-    ASSERT_EQ(0, b.run().exit_code);
+    ASSERT_TRUE(b.run().exited_with_zero);
     ASSERT_TRUE(b.waitForClientEvent("start 1"));
     const QMap<QString, QByteArray> installed = FileTree(b.userApp());
 
@@ -74,8 +72,7 @@ TEST(LauncherFlow, DamagedPackageRollsBackThenAGoodOneUpgrades)
     ASSERT_TRUE(QDir().mkpath(b.userDir() + "/app/old"));
     const int offset = b.log().size();
     const RunResult failed = b.run();
-    ASSERT_TRUE(failed.finished) << qPrintable(failed.err);
-    EXPECT_EQ(0, failed.exit_code);
+    ASSERT_TRUE(failed.exited_with_zero) << qPrintable(failed.err);
     const QString log = b.log().mid(offset);
     EXPECT_EQ(1, LinesWith(log, "[ERROR] launcher(").filter("Failed to upgrade package").size())
         << qPrintable(log);
@@ -87,8 +84,7 @@ TEST(LauncherFlow, DamagedPackageRollsBackThenAGoodOneUpgrades)
 
     ASSERT_TRUE(b.setBuild(2, ClientPackage(2, 1)));
     const RunResult upgraded = b.run();
-    ASSERT_TRUE(upgraded.finished) << qPrintable(upgraded.err);
-    EXPECT_EQ(0, upgraded.exit_code);
+    ASSERT_TRUE(upgraded.exited_with_zero) << qPrintable(upgraded.err);
     EXPECT_EQ(InfoRecord(2), FileTree(b.userApp()).value("Contents/Resources/INFO"));
     EXPECT_FALSE(QDir(b.userApp() + "_tmp").exists());
     EXPECT_TRUE(b.waitForClientEvent("term 1", 2));

@@ -65,7 +65,7 @@ TEST(LauncherScreen, ProgressDialogIsSeenDuringAnUpgrade)
     // A client that ignores SIGTERM keeps the upgrade, and so the dialog, busy
     // for five seconds while it is being stopped.
     ASSERT_TRUE(b.setBuild(1, ClientPackage(1, 0, ClientKind::IgnoresTerm)));
-    ASSERT_EQ(0, b.run().exit_code);
+    ASSERT_TRUE(b.run().exited_with_zero);
     ASSERT_TRUE(b.setBuild(2, ClientPackage(2)));
 
     QProcessEnvironment env = b.environment();

@@ -148,9 +148,8 @@ RunResult TestBundle::run(const QProcessEnvironment& env, const QString& program
     process.start(program.isEmpty() ? executable() : program, QStringList());
     RunResult result;
     // One that does not end in time is killed with the QProcess.
-    result.finished = process.waitForFinished(kRunTimeoutMs)
-                      && process.exitStatus() == QProcess::NormalExit;
-    result.exit_code = process.exitCode();
+    result.exited_with_zero = process.waitForFinished(kRunTimeoutMs)
+                              && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
     result.out = QString::fromUtf8(process.readAllStandardOutput());
     result.err = QString::fromUtf8(process.readAllStandardError());
     return result;

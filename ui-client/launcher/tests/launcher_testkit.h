@@ -36,8 +36,7 @@ QList<PackageEntry> ClientPackage(int build, int filler_count = 0,
                                   ClientKind kind = ClientKind::ExitsOnTerm);
 
 struct RunResult {
-    int exit_code = -1;
-    bool finished = false;  // false: it crashed or did not end in time
+    bool exited_with_zero = false;  // not when it failed, crashed or did not end in time
     QString out;
     QString err;
 };

@@ -7,6 +7,8 @@
 #include <QResource>
 #include <QTranslator>
 
+#include <utility>
+
 namespace {
 
 const char kReady[] = "Driftwell is ready.";
@@ -24,12 +26,7 @@ private:
     QTranslator* t_;
 };
 
-class StrTableTest : public ::testing::Test {
-protected:
-    void SetUp() override { StrTable::InitStrTable(); }
-};
-
-TEST_F(StrTableTest, EnglishWithoutTranslatorAndEmptyOutsideTheTable)
+TEST(StrTable, EnglishWithoutTranslatorAndEmptyOutsideTheTable)
 {
     EXPECT_EQ(StrTable::LoadStr(16), kReady);
     EXPECT_EQ(StrTable::LoadStr(54), kInitializing);
@@ -40,7 +37,7 @@ TEST_F(StrTableTest, EnglishWithoutTranslatorAndEmptyOutsideTheTable)
     EXPECT_TRUE(StrTable::LoadStr(600).isEmpty());
 }
 
-TEST_F(StrTableTest, EveryCatalogueTranslatesTheLauncherRows)
+TEST(StrTable, EveryCatalogueTranslatesTheLauncherRows)
 {
     const QStringList codes = {"enu", "cht", "chs", "jpn", "deu", "krn", "fra", "ita", "esn", "ptb",
                                "rus", "dan", "nor", "sve", "nld", "plk", "hun", "ptg", "trk", "csy"};
@@ -66,7 +63,7 @@ TEST_F(StrTableTest, EveryCatalogueTranslatesTheLauncherRows)
     }
 }
 
-TEST_F(StrTableTest, GermanCatalogueUnderContextGlobal)
+TEST(StrTable, GermanCatalogueUnderContextGlobal)
 {
     QTranslator translator;
     ASSERT_TRUE(translator.load(QStringLiteral(":/deu.qm")));
@@ -88,7 +85,7 @@ public:
     bool isEmpty() const override { return false; }
 };
 
-TEST_F(StrTableTest, BackslashSequencesBecomeNewlineAndTab)
+TEST(StrTable, BackslashSequencesBecomeNewlineAndTab)
 {
     EscapesTranslator translator;
     ScopedTranslator installed(&translator);
@@ -97,12 +94,9 @@ TEST_F(StrTableTest, BackslashSequencesBecomeNewlineAndTab)
     EXPECT_EQ(StrTable::LoadStr(16), "a\nb\tc\\N\\T\nd\\\ne");
 }
 
-TEST_F(StrTableTest, LookupStrIDIgnoresCaseButNotBlanks)
+TEST(StrTable, LookupStrIDIgnoresCaseButNotBlanks)
 {
-    const struct {
-        const char* key;
-        int id;
-    } rows[] = {
+    const std::pair<const char*, int> rows[] = {
         {"app_name", 453},
         {"APP_NAME", 453},
         {"Desc_Dwel_Env_Preparing", 54},
@@ -112,8 +106,8 @@ TEST_F(StrTableTest, LookupStrIDIgnoresCaseButNotBlanks)
         {"app_name ", -1},
         {"", -1},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(StrTable::LookupStrID(QString::fromLatin1(row.key)), row.id) << "'" << row.key << "'";
+    for (const auto& [key, id] : rows)
+        EXPECT_EQ(StrTable::LookupStrID(QString::fromLatin1(key)), id) << "'" << key << "'";
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // A gtest environment for tests of the catalogues: an application object (for
-// translators and QProcess) and the resource collection "texts" registered.
+// translators and QProcess), the resource collection "texts" registered and
+// the string table filled.
 #ifndef TEXTS_APP_ENVIRONMENT_H
 #define TEXTS_APP_ENVIRONMENT_H
 
@@ -17,6 +18,7 @@ public:
     {
         app_ = std::make_unique<QCoreApplication>(argc_, argv_);
         qInitResources_texts();
+        StrTable::InitStrTable();
     }
     void TearDown() override { app_.reset(); }
 
