@@ -15,610 +15,612 @@ struct Row {
     const char* text;  // English, UTF-8; the source text of every catalogue
 };
 
-// Rows in id order. Only 16, 54 and 453 carry their English text yet; every
-// other row holds its key as a stand-in text until the product's English
-// texts are filled in (a stand-in is never empty, and no catalogue has it).
+// Rows in id order. A text may carry "%1"/"%2" arguments, "&" accelerators,
+// installer markup ("[ProductName]", a "{\Style}" prefix) and the two-character
+// sequences backslash-n and backslash-t. Rows share a text only where every
+// language can use one translation in all of them: the catalogues are keyed
+// by the English text alone.
 constexpr Row kRows[kRowCount] = {
-    {"wizard_ssl_change_sync_folder_warning", "wizard_ssl_change_sync_folder_warning"},  // 0
-    {"msi_button_cancel", "msi_button_cancel"},  // 1
-    {"err_create_session_fail", "err_create_session_fail"},  // 2
-    {"main_queue_column_file", "main_queue_column_file"},  // 3
-    {"history_date", "history_date"},  // 4
-    {"title_id", "title_id"},  // 5
-    {"general_setting_show_tutorial", "general_setting_show_tutorial"},  // 6
-    {"wizard_conflict_backup_warning", "wizard_conflict_backup_warning"},  // 7
-    {"quick_mode_open_folder_btn", "quick_mode_open_folder_btn"},  // 8
-    {"history_last_week", "history_last_week"},  // 9
-    {"status_desc_ssl_verify_fail", "status_desc_ssl_verify_fail"},  // 10
-    {"month_jan", "month_jan"},  // 11
-    {"share_enable_remove_msg", "share_enable_remove_msg"},  // 12
-    {"wizard_summary_table_account", "wizard_summary_table_account"},  // 13
-    {"status_desc_pause", "status_desc_pause"},  // 14
-    {"msi_filesinuse_dlg_closenone", "msi_filesinuse_dlg_closenone"},  // 15
+    {"wizard_ssl_change_sync_folder_warning", "The server's certificate has changed since the last connection."},  // 0
+    {"msi_button_cancel", "Cancel"},  // 1
+    {"err_create_session_fail", "The sync task could not be created. Check the connection to the server and try again."},  // 2
+    {"main_queue_column_file", "File"},  // 3
+    {"history_date", "Date"},  // 4
+    {"title_id", "ID"},  // 5
+    {"general_setting_show_tutorial", "Show the tutorial"},  // 6
+    {"wizard_conflict_backup_warning", "Files that exist in both places are kept, and the older copy is renamed."},  // 7
+    {"quick_mode_open_folder_btn", "Open folder"},  // 8
+    {"history_last_week", "Last 7 days"},  // 9
+    {"status_desc_ssl_verify_fail", "The server's security certificate could not be verified."},  // 10
+    {"month_jan", "January"},  // 11
+    {"share_enable_remove_msg", "Stop syncing this shared folder? Its files stay on the server."},  // 12
+    {"wizard_summary_table_account", "Account:"},  // 13
+    {"status_desc_pause", "Paused"},  // 14
+    {"msi_filesinuse_dlg_closenone", "&Do not close the programs (a restart may be needed)"},  // 15
     {"desc_dwel_env_preparation_done", "Driftwell is ready."},  // 16
-    {"msg_share_quotafull", "msg_share_quotafull"},  // 17
-    {"msg_download_aborted", "msg_download_aborted"},  // 18
-    {"msi_welcome_dlg_subtitle", "msi_welcome_dlg_subtitle"},  // 19
-    {"conn_mode_ez", "conn_mode_ez"},  // 20
-    {"history_delete", "history_delete"},  // 21
-    {"quick_mode_end_msg", "quick_mode_end_msg"},  // 22
-    {"err_autoconn_sys", "err_autoconn_sys"},  // 23
-    {"msg_ssl_error", "msg_ssl_error"},  // 24
-    {"col_id", "col_id"},  // 25
-    {"advan_mode_set_share_folder_info", "advan_mode_set_share_folder_info"},  // 26
-    {"session_selective_sync_btn", "session_selective_sync_btn"},  // 27
-    {"msi_progress_dlg_title", "msi_progress_dlg_title"},  // 28
-    {"more_tutorial", "more_tutorial"},  // 29
-    {"wizard_sync_folder_new_session", "wizard_sync_folder_new_session"},  // 30
-    {"main_queue_column_status", "main_queue_column_status"},  // 31
-    {"resume_connection", "resume_connection"},  // 32
-    {"msg_upgrading", "msg_upgrading"},  // 33
-    {"title_open_driftwell", "title_open_driftwell"},  // 34
-    {"friday", "friday"},  // 35
-    {"edit", "edit"},  // 36
-    {"connection_server", "connection_server"},  // 37
-    {"msi_button_yes", "msi_button_yes"},  // 38
-    {"msg_download_fail", "msg_download_fail"},  // 39
-    {"history_all_event", "history_all_event"},  // 40
-    {"msi_userexit_dlg_description1", "msi_userexit_dlg_description1"},  // 41
-    {"title_pwd", "title_pwd"},  // 42
-    {"manage_option_enable_icon_overlay", "manage_option_enable_icon_overlay"},  // 43
-    {"msg_seldir_description", "msg_seldir_description"},  // 44
-    {"btn_no_need", "btn_no_need"},  // 45
-    {"selective_sync_remove_msg", "selective_sync_remove_msg"},  // 46
-    {"err_syncfolder_not_mounted", "err_syncfolder_not_mounted"},  // 47
-    {"history_items", "history_items"},  // 48
-    {"msg_welcome", "msg_welcome"},  // 49
-    {"upgrade_failed", "upgrade_failed"},  // 50
-    {"main_status_syncing", "main_status_syncing"},  // 51
-    {"tray_updatedfile", "tray_updatedfile"},  // 52
-    {"msi_error_dlg_title", "msi_error_dlg_title"},  // 53
+    {"msg_share_quotafull", "The quota of the shared folder is used up."},  // 17
+    {"msg_download_aborted", "The download was stopped."},  // 18
+    {"msi_welcome_dlg_subtitle", "Set up [ProductName] on this computer."},  // 19
+    {"conn_mode_ez", "Through the relay service"},  // 20
+    {"history_delete", "Deleted"},  // 21
+    {"quick_mode_end_msg", "Driftwell is set up and has started syncing."},  // 22
+    {"err_autoconn_sys", "Driftwell could not reach the relay service because of a system error. Try again later."},  // 23
+    {"msg_ssl_error", "A secure connection to the server could not be established."},  // 24
+    {"col_id", "ID"},  // 25
+    {"advan_mode_set_share_folder_info", "Choose which shared folders on the server to sync with this computer."},  // 26
+    {"session_selective_sync_btn", "Selective sync"},  // 27
+    {"msi_progress_dlg_title", "{\\DwHeading}Installing [ProductName]"},  // 28
+    {"more_tutorial", "More tips"},  // 29
+    {"wizard_sync_folder_new_session", "Add a sync task"},  // 30
+    {"main_queue_column_status", "Status"},  // 31
+    {"resume_connection", "Resume"},  // 32
+    {"msg_upgrading", "Driftwell is being updated. Please wait."},  // 33
+    {"title_open_driftwell", "Open Driftwell"},  // 34
+    {"friday", "Friday"},  // 35
+    {"edit", "Edit"},  // 36
+    {"connection_server", "Server:"},  // 37
+    {"msi_button_yes", "&Yes"},  // 38
+    {"msg_download_fail", "%1 could not be downloaded."},  // 39
+    {"history_all_event", "All events"},  // 40
+    {"msi_userexit_dlg_description1", "Your computer has not been changed."},  // 41
+    {"title_pwd", "Password:"},  // 42
+    {"manage_option_enable_icon_overlay", "Show sync status icons on files and folders"},  // 43
+    {"msg_seldir_description", "Choose the folder to sync."},  // 44
+    {"btn_no_need", "No, thanks"},  // 45
+    {"selective_sync_remove_msg", "Files in folders you deselect are removed from this computer but stay on the server."},  // 46
+    {"err_syncfolder_not_mounted", "The sync folder is on a volume that is not mounted. Connect the volume to continue syncing."},  // 47
+    {"history_items", "%1 items"},  // 48
+    {"msg_welcome", "Welcome to Driftwell!"},  // 49
+    {"upgrade_failed", "The update failed. The previous version is still in use."},  // 50
+    {"main_status_syncing", "Syncing..."},  // 51
+    {"tray_updatedfile", "%1 was updated"},  // 52
+    {"msi_error_dlg_title", "[ProductName] Setup"},  // 53
     {"desc_dwel_env_preparing", "Driftwell is initializing..."},  // 54
-    {"msi_userexit_dlg_subtitle", "msi_userexit_dlg_subtitle"},  // 55
-    {"msi_maintenance_dlg_change_label", "msi_maintenance_dlg_change_label"},  // 56
-    {"err_auth_short", "err_auth_short"},  // 57
-    {"err_proto", "err_proto"},  // 58
-    {"first_page", "first_page"},  // 59
-    {"err_sync_direction_mismatch", "err_sync_direction_mismatch"},  // 60
-    {"main_desc_processing_file", "main_desc_processing_file"},  // 61
-    {"selective_sync_file_title", "selective_sync_file_title"},  // 62
-    {"history_type", "history_type"},  // 63
-    {"unlink_connection", "unlink_connection"},  // 64
-    {"wizard_create_local_folder_failed", "wizard_create_local_folder_failed"},  // 65
-    {"wizard_setup_advan_mode_title", "wizard_setup_advan_mode_title"},  // 66
-    {"err_version_server", "err_version_server"},  // 67
-    {"main_queue_preparing", "main_queue_preparing"},  // 68
-    {"sync_direction_mismatch", "sync_direction_mismatch"},  // 69
-    {"msi_button_back", "msi_button_back"},  // 70
-    {"btn_resume", "btn_resume"},  // 71
-    {"wizard_summary_title", "wizard_summary_title"},  // 72
-    {"err_ip_not_allowed", "err_ip_not_allowed"},  // 73
-    {"selective_sync_loading", "selective_sync_loading"},  // 74
-    {"tray_syncing_file_cnt", "tray_syncing_file_cnt"},  // 75
-    {"status_desc_diskfull", "status_desc_diskfull"},  // 76
-    {"main_queue_completed", "main_queue_completed"},  // 77
-    {"tray_about", "tray_about"},  // 78
-    {"msg_localdiskfull", "msg_localdiskfull"},  // 79
-    {"context_menu_filter_folder", "context_menu_filter_folder"},  // 80
-    {"title_value", "title_value"},  // 81
-    {"status_desc_localdisk_full", "status_desc_localdisk_full"},  // 82
-    {"msi_button_no", "msi_button_no"},  // 83
-    {"msg_unlinking", "msg_unlinking"},  // 84
-    {"err_network", "err_network"},  // 85
-    {"msi_exit_dlg_description", "msi_exit_dlg_description"},  // 86
-    {"tray_click_to_update", "tray_click_to_update"},  // 87
-    {"wizard_readonly_backup_desc", "wizard_readonly_backup_desc"},  // 88
-    {"thursday", "thursday"},  // 89
-    {"use_relaylink", "use_relaylink"},  // 90
-    {"main_status_connecting", "main_status_connecting"},  // 91
-    {"wizard_share_nonexist_sync_folder_warning", "wizard_share_nonexist_sync_folder_warning"},  // 92
-    {"btn_edit_connection", "btn_edit_connection"},  // 93
-    {"err_version_client", "err_version_client"},  // 94
-    {"msi_ready_dlg_text", "msi_ready_dlg_text"},  // 95
-    {"version", "version"},  // 96
-    {"wizard_diskfull_sync_folder_warning", "wizard_diskfull_sync_folder_warning"},  // 97
-    {"err_autoconn_ctrl", "err_autoconn_ctrl"},  // 98
-    {"err_share_not_mounted", "err_share_not_mounted"},  // 99
-    {"msg_folder_not_empty", "msg_folder_not_empty"},  // 100
-    {"err_pnx_share_link", "err_pnx_share_link"},  // 101
-    {"status_desc_quotafull", "status_desc_quotafull"},  // 102
-    {"history_rename", "history_rename"},  // 103
-    {"col_file_name", "col_file_name"},  // 104
-    {"black_list_btn", "black_list_btn"},  // 105
-    {"err_database", "err_database"},  // 106
-    {"msi_readyrepair_dlg_description", "msi_readyrepair_dlg_description"},  // 107
-    {"connection_enter_otp", "connection_enter_otp"},  // 108
-    {"manage_share_tab_name", "manage_share_tab_name"},  // 109
-    {"title_ip", "title_ip"},  // 110
-    {"management_proxy_cancel_btn", "management_proxy_cancel_btn"},  // 111
-    {"monday", "monday"},  // 112
-    {"desc_cannot_list_version", "desc_cannot_list_version"},  // 113
-    {"wizard_user_disable_sync_folder_warning", "wizard_user_disable_sync_folder_warning"},  // 114
-    {"msg_finish_way", "msg_finish_way"},  // 115
-    {"err_max_tries", "err_max_tries"},  // 116
-    {"tutorial_first_desc", "tutorial_first_desc"},  // 117
-    {"msi_button_repair", "msi_button_repair"},  // 118
-    {"msi_maintenance_dlg_remove_label", "msi_maintenance_dlg_remove_label"},  // 119
-    {"notify_abnormal_short", "notify_abnormal_short"},  // 120
-    {"msi_ready_dlg_subtitle", "msi_ready_dlg_subtitle"},  // 121
-    {"wizard_summary_desc", "wizard_summary_desc"},  // 122
-    {"NSIS_NOT_ADMIN_CONFIRM", "NSIS_NOT_ADMIN_CONFIRM"},  // 123
-    {"tray_management_page", "tray_management_page"},  // 124
-    {"btn_help", "btn_help"},  // 125
-    {"sunday", "sunday"},  // 126
-    {"msg_finish", "msg_finish"},  // 127
-    {"pause_connection", "pause_connection"},  // 128
-    {"wizard_setup_repeat_warning", "wizard_setup_repeat_warning"},  // 129
-    {"msi_maintenance_dlg_subtitle", "msi_maintenance_dlg_subtitle"},  // 130
-    {"err_hb_change", "err_hb_change"},  // 131
-    {"main_sync_task", "main_sync_task"},  // 132
-    {"err_pnxdisable", "err_pnxdisable"},  // 133
-    {"desc_inactive", "desc_inactive"},  // 134
-    {"title_conn_mode", "title_conn_mode"},  // 135
-    {"wizard_setup_advan_mode_desc", "wizard_setup_advan_mode_desc"},  // 136
-    {"quick_mode_finish_page_more_detail", "quick_mode_finish_page_more_detail"},  // 137
-    {"err_ssl_change", "err_ssl_change"},  // 138
-    {"err_disconn", "err_disconn"},  // 139
-    {"history_action", "history_action"},  // 140
-    {"connection_unlinking", "connection_unlinking"},  // 141
-    {"month_mar", "month_mar"},  // 142
-    {"tooltip_folder_indexing", "tooltip_folder_indexing"},  // 143
-    {"advanced_settings", "advanced_settings"},  // 144
-    {"status_desc_linking", "status_desc_linking"},  // 145
-    {"manage_proxy_server_port", "manage_proxy_server_port"},  // 146
-    {"title_upgrade", "title_upgrade"},  // 147
-    {"black_list_desc", "black_list_desc"},  // 148
-    {"btn_apply", "btn_apply"},  // 149
-    {"backup_chooser_destination", "backup_chooser_destination"},  // 150
-    {"wizard_setup_quick_mode_desc", "wizard_setup_quick_mode_desc"},  // 151
-    {"wizard_system_err_sync_folder_warning", "wizard_system_err_sync_folder_warning"},  // 152
-    {"selective_sync_direction_title", "selective_sync_direction_title"},  // 153
-    {"msi_maintenance_welcome_dlg_subtitle", "msi_maintenance_welcome_dlg_subtitle"},  // 154
-    {"wizard_set_sync_folder_desc", "wizard_set_sync_folder_desc"},  // 155
-    {"msi_fatalerror_dlg_description1", "msi_fatalerror_dlg_description1"},  // 156
-    {"file_max_size_label", "file_max_size_label"},  // 157
-    {"msi_filesinuse_dlg_description", "msi_filesinuse_dlg_description"},  // 158
-    {"msi_maintenance_dlg_repair_tooltip", "msi_maintenance_dlg_repair_tooltip"},  // 159
-    {"msi_ready_dlg_title", "msi_ready_dlg_title"},  // 160
-    {"setting_proxy_port", "setting_proxy_port"},  // 161
-    {"setting_filter_max_size", "setting_filter_max_size"},  // 162
-    {"setting_option_language_title", "setting_option_language_title"},  // 163
-    {"msi_maintenance_dlg_repair_label", "msi_maintenance_dlg_repair_label"},  // 164
-    {"title_chart_local", "title_chart_local"},  // 165
-    {"col_file_status", "col_file_status"},  // 166
-    {"col_file_size", "col_file_size"},  // 167
-    {"main_queue_progress", "main_queue_progress"},  // 168
-    {"last_page", "last_page"},  // 169
-    {"msg_linking", "msg_linking"},  // 170
-    {"err_otp_enforced", "err_otp_enforced"},  // 171
-    {"file_selective_sync", "file_selective_sync"},  // 172
-    {"msi_maintenance_dlg_remove_tooltip", "msi_maintenance_dlg_remove_tooltip"},  // 173
-    {"tray_current_syncing", "tray_current_syncing"},  // 174
-    {"setting_proxy_password", "setting_proxy_password"},  // 175
-    {"manage_option_enable_startup", "manage_option_enable_startup"},  // 176
-    {"wizard_welcome_info", "wizard_welcome_info"},  // 177
-    {"share_enabled", "share_enabled"},  // 178
-    {"err_share_fail_enable", "err_share_fail_enable"},  // 179
-    {"conn_mode_direct", "conn_mode_direct"},  // 180
-    {"title_ssl_enable", "title_ssl_enable"},  // 181
-    {"history_to", "history_to"},  // 182
-    {"status_desc_auth_short", "status_desc_auth_short"},  // 183
-    {"msg_info", "msg_info"},  // 184
-    {"open_file", "open_file"},  // 185
-    {"month_sep", "month_sep"},  // 186
-    {"msi_maintenance_dlg_change_text_disabled", "msi_maintenance_dlg_change_text_disabled"},  // 187
-    {"next_x_pages", "next_x_pages"},  // 188
-    {"wizard_setup_mode_page_desc", "wizard_setup_mode_page_desc"},  // 189
-    {"session_resume_btn", "session_resume_btn"},  // 190
-    {"manage_share_title", "manage_share_title"},  // 191
-    {"conflict_policy_desc", "conflict_policy_desc"},  // 192
-    {"error_zero_version", "error_zero_version"},  // 193
-    {"month_apr", "month_apr"},  // 194
-    {"msi_button_retry", "msi_button_retry"},  // 195
-    {"btn_select", "btn_select"},  // 196
-    {"tutorial_second_desc", "tutorial_second_desc"},  // 197
-    {"btn_manage", "btn_manage"},  // 198
-    {"backup_chooser_choose_source", "backup_chooser_choose_source"},  // 199
-    {"manage_option_language", "manage_option_language"},  // 200
-    {"file_black_list_label", "file_black_list_label"},  // 201
-    {"connection_unlink_confirm", "connection_unlink_confirm"},  // 202
-    {"open_contain_folder", "open_contain_folder"},  // 203
-    {"msi_fatalerror_dlg_subtitle", "msi_fatalerror_dlg_subtitle"},  // 204
-    {"wizard_ssl_verify_fail_sync_folder_warning", "wizard_ssl_verify_fail_sync_folder_warning"},  // 205
-    {"manage_proxy_title", "manage_proxy_title"},  // 206
-    {"btn_ok", "btn_ok"},  // 207
-    {"tutorial_second_title", "tutorial_second_title"},  // 208
-    {"msi_maintenance_dlg_remove_text", "msi_maintenance_dlg_remove_text"},  // 209
-    {"wizard_invalid_sync_folder_warning", "wizard_invalid_sync_folder_warning"},  // 210
-    {"selective_sync_folder_title", "selective_sync_folder_title"},  // 211
-    {"notify_new_share", "notify_new_share"},  // 212
-    {"msg_disabled", "msg_disabled"},  // 213
-    {"wizard_setup_repeat_warning2", "wizard_setup_repeat_warning2"},  // 214
-    {"msi_readyremove_dlg_text", "msi_readyremove_dlg_text"},  // 215
-    {"update_pkg_for_selective_sync", "update_pkg_for_selective_sync"},  // 216
-    {"setting_option_language_default", "setting_option_language_default"},  // 217
-    {"manage_option_enable_ssl", "manage_option_enable_ssl"},  // 218
-    {"btn_start_now", "btn_start_now"},  // 219
-    {"advan_setup_wizard", "advan_setup_wizard"},  // 220
-    {"manage_share_change_folder", "manage_share_change_folder"},  // 221
-    {"wizard_setsyncfolder_title", "wizard_setsyncfolder_title"},  // 222
-    {"setting_filter_zero_desc", "setting_filter_zero_desc"},  // 223
-    {"status_desc_errversion_client", "status_desc_errversion_client"},  // 224
-    {"msi_button_print", "msi_button_print"},  // 225
-    {"history_keyword", "history_keyword"},  // 226
-    {"one_way_sync_download", "one_way_sync_download"},  // 227
-    {"open_sync_status", "open_sync_status"},  // 228
-    {"btn_advanced", "btn_advanced"},  // 229
-    {"setting_filter_ignore_local_delete", "setting_filter_ignore_local_delete"},  // 230
-    {"treedialog_server_desc", "treedialog_server_desc"},  // 231
-    {"wizard_summary_table_local_title", "wizard_summary_table_local_title"},  // 232
-    {"setting_tab_connection", "setting_tab_connection"},  // 233
-    {"setting_option_start_upon_login", "setting_option_start_upon_login"},  // 234
-    {"history_search", "history_search"},  // 235
-    {"msg_download_done", "msg_download_done"},  // 236
-    {"setting_proxy_ip", "setting_proxy_ip"},  // 237
-    {"msi_readyrepair_dlg_text", "msi_readyrepair_dlg_text"},  // 238
-    {"month_nov", "month_nov"},  // 239
-    {"wizard_welcome_help", "wizard_welcome_help"},  // 240
-    {"msi_filesinuse_dlg_text", "msi_filesinuse_dlg_text"},  // 241
-    {"manage_proxy_chk_sys_proxy", "manage_proxy_chk_sys_proxy"},  // 242
-    {"msi_filesinuse_dlg_title", "msi_filesinuse_dlg_title"},  // 243
-    {"msi_eula_dlg_reject", "msi_eula_dlg_reject"},  // 244
-    {"err_ssl_verify_fail", "err_ssl_verify_fail"},  // 245
-    {"msg_catchevent", "msg_catchevent"},  // 246
-    {"backup_chooser_no_folder_selected", "backup_chooser_no_folder_selected"},  // 247
-    {"wizard_new_sync_folder_desc", "wizard_new_sync_folder_desc"},  // 248
-    {"title_ip_detail", "title_ip_detail"},  // 249
-    {"msi_welcome_dlg_title", "msi_welcome_dlg_title"},  // 250
-    {"msi_maintenance_dlg_description", "msi_maintenance_dlg_description"},  // 251
-    {"msg_test_username_fail", "msg_test_username_fail"},  // 252
-    {"err_autoconn_invalidid", "err_autoconn_invalidid"},  // 253
-    {"err_common", "err_common"},  // 254
-    {"tutorial_first_title", "tutorial_first_title"},  // 255
-    {"context_menu_sendto_prefix", "context_menu_sendto_prefix"},  // 256
-    {"msi_eula_dlg_description", "msi_eula_dlg_description"},  // 257
-    {"msg_confirm_unlink", "msg_confirm_unlink"},  // 258
-    {"tutorial_third_title", "tutorial_third_title"},  // 259
-    {"tutorial_third_desc_2", "tutorial_third_desc_2"},  // 260
-    {"err_relaylink_file_sharing", "err_relaylink_file_sharing"},  // 261
-    {"msg_network_drive_watch", "msg_network_drive_watch"},  // 262
-    {"btn_pause", "btn_pause"},  // 263
-    {"main_desc_processing_count", "main_desc_processing_count"},  // 264
-    {"msg_seldir", "msg_seldir"},  // 265
-    {"btn_wizard_readonly_no", "btn_wizard_readonly_no"},  // 266
-    {"conn_mode_reading", "conn_mode_reading"},  // 267
-    {"backup_chooser_desc", "backup_chooser_desc"},  // 268
-    {"hb_overview", "hb_overview"},  // 269
-    {"setting_proxy_err_ipport_empty", "setting_proxy_err_ipport_empty"},  // 270
-    {"btn_ssl_continue", "btn_ssl_continue"},  // 271
-    {"manage_share_local_syncfolder", "manage_share_local_syncfolder"},  // 272
-    {"label_locked_file", "label_locked_file"},  // 273
-    {"msi_maintenance_dlg_title", "msi_maintenance_dlg_title"},  // 274
-    {"title_standby", "title_standby"},  // 275
-    {"manage_proxy_chk_no_proxy", "manage_proxy_chk_no_proxy"},  // 276
-    {"tray_resume", "tray_resume"},  // 277
-    {"tray_relink", "tray_relink"},  // 278
-    {"loading", "loading"},  // 279
-    {"msi_maintenance_welcome_dlg_title", "msi_maintenance_welcome_dlg_title"},  // 280
-    {"msi_cancel_dlg_text", "msi_cancel_dlg_text"},  // 281
-    {"err_link_same_hb", "err_link_same_hb"},  // 282
-    {"context_menu_share_link", "context_menu_share_link"},  // 283
-    {"msg_about", "msg_about"},  // 284
-    {"yes", "yes"},  // 285
-    {"err_auth", "err_auth"},  // 286
-    {"msg_shareitem_delete", "msg_shareitem_delete"},  // 287
-    {"wizard_welcome_footer_info", "wizard_welcome_footer_info"},  // 288
-    {"err_shareitem_delete", "err_shareitem_delete"},  // 289
-    {"msg_sub_slogan", "msg_sub_slogan"},  // 290
-    {"tray_help", "tray_help"},  // 291
-    {"status_desc_syncing", "status_desc_syncing"},  // 292
-    {"context_menu_filter_folders", "context_menu_filter_folders"},  // 293
-    {"recently_changed_title", "recently_changed_title"},  // 294
-    {"tray_unstable", "tray_unstable"},  // 295
-    {"notify_abnormal", "notify_abnormal"},  // 296
-    {"msi_welcome_dlg_description", "msi_welcome_dlg_description"},  // 297
-    {"manage_option_title", "manage_option_title"},  // 298
-    {"msi_eula_dlg_subtitle", "msi_eula_dlg_subtitle"},  // 299
-    {"session_pause_btn", "session_pause_btn"},  // 300
-    {"title_chart_tray", "title_chart_tray"},  // 301
-    {"selective_sync", "selective_sync"},  // 302
-    {"context_menu_version_browse", "context_menu_version_browse"},  // 303
-    {"title_bubble_sharing", "title_bubble_sharing"},  // 304
-    {"main_settings", "main_settings"},  // 305
-    {"time_day_ago", "time_day_ago"},  // 306
-    {"language_default", "language_default"},  // 307
-    {"err_otp_invalid", "err_otp_invalid"},  // 308
-    {"manage_proxy_label_username", "manage_proxy_label_username"},  // 309
-    {"err_share_nonexist_short", "err_share_nonexist_short"},  // 310
-    {"history_customize", "history_customize"},  // 311
-    {"msg_folder_readonly", "msg_folder_readonly"},  // 312
-    {"title_usr", "title_usr"},  // 313
-    {"history_reset", "history_reset"},  // 314
-    {"err_inval", "err_inval"},  // 315
-    {"month_jun", "month_jun"},  // 316
-    {"err_invalid", "err_invalid"},  // 317
-    {"main_desc_last_upload", "main_desc_last_upload"},  // 318
-    {"finish", "finish"},  // 319
-    {"tray_status_paused", "tray_status_paused"},  // 320
-    {"wizard_connection_setting_desc", "wizard_connection_setting_desc"},  // 321
-    {"file_ext_label", "file_ext_label"},  // 322
-    {"wizard_welcome_title", "wizard_welcome_title"},  // 323
-    {"month_feb", "month_feb"},  // 324
-    {"history_file", "history_file"},  // 325
-    {"manage_option_merge_mode", "manage_option_merge_mode"},  // 326
-    {"err_backup_fail", "err_backup_fail"},  // 327
-    {"history_from", "history_from"},  // 328
-    {"main_queue_waiting", "main_queue_waiting"},  // 329
-    {"network_management_page_btn", "network_management_page_btn"},  // 330
-    {"setting_filter_table_desc", "setting_filter_table_desc"},  // 331
-    {"wizard_connection_desc", "wizard_connection_desc"},  // 332
-    {"wizard_conflict_sync_folder_warning", "wizard_conflict_sync_folder_warning"},  // 333
-    {"msi_cancel_dlg_title", "msi_cancel_dlg_title"},  // 334
-    {"err_share_perm_short", "err_share_perm_short"},  // 335
-    {"err_version_short", "err_version_short"},  // 336
-    {"wizard_quotafull_sync_folder_warning", "wizard_quotafull_sync_folder_warning"},  // 337
-    {"btn_next", "btn_next"},  // 338
-    {"saturday", "saturday"},  // 339
-    {"col_computer_name", "col_computer_name"},  // 340
-    {"setting_proxy_err_invalid_port", "setting_proxy_err_invalid_port"},  // 341
-    {"progress_preparing", "progress_preparing"},  // 342
-    {"setting_filter_table_editor_tooltip", "setting_filter_table_editor_tooltip"},  // 343
-    {"msi_fatalerror_dlg_title", "msi_fatalerror_dlg_title"},  // 344
-    {"msi_readyrepair_dlg_subtitle", "msi_readyrepair_dlg_subtitle"},  // 345
-    {"title_name", "title_name"},  // 346
-    {"history_download", "history_download"},  // 347
-    {"month_jul", "month_jul"},  // 348
-    {"conflict_policy_overwrite_client", "conflict_policy_overwrite_client"},  // 349
-    {"msg_checkpass", "msg_checkpass"},  // 350
-    {"msi_maintenance_dlg_change_text", "msi_maintenance_dlg_change_text"},  // 351
-    {"msg_test_connect", "msg_test_connect"},  // 352
-    {"msi_progress_dlg_status_label", "msi_progress_dlg_status_label"},  // 353
-    {"wizard_network_err_sync_folder_warning", "wizard_network_err_sync_folder_warning"},  // 354
-    {"title_inactive", "title_inactive"},  // 355
-    {"main_status_uptodate", "main_status_uptodate"},  // 356
-    {"btn_unlink", "btn_unlink"},  // 357
-    {"btn_done", "btn_done"},  // 358
-    {"context_menu_resume_folders", "context_menu_resume_folders"},  // 359
-    {"msi_button_ignore", "msi_button_ignore"},  // 360
-    {"title_icon_double_clicked", "title_icon_double_clicked"},  // 361
-    {"wizard_create_driftwell_folder", "wizard_create_driftwell_folder"},  // 362
-    {"tray_opendir", "tray_opendir"},  // 363
-    {"tuesday", "tuesday"},  // 364
-    {"msi_exit_dlg_launch", "msi_exit_dlg_launch"},  // 365
-    {"main_queue_column_progress", "main_queue_column_progress"},  // 366
-    {"title_ssl_warning", "title_ssl_warning"},  // 367
-    {"try_syncing", "try_syncing"},  // 368
-    {"NSIS_DRIFTWELL_INSTALLED_CURRENT", "NSIS_DRIFTWELL_INSTALLED_CURRENT"},  // 369
-    {"month_aug", "month_aug"},  // 370
-    {"open_main_app", "open_main_app"},  // 371
-    {"del", "del"},  // 372
-    {"msg_connectsucc", "msg_connectsucc"},  // 373
-    {"manage_proxy_chk_account", "manage_proxy_chk_account"},  // 374
-    {"msi_maintenance_dlg_change_tooltip", "msi_maintenance_dlg_change_tooltip"},  // 375
-    {"msi_filesinuse_dlg_text2", "msi_filesinuse_dlg_text2"},  // 376
-    {"folder_selective_sync", "folder_selective_sync"},  // 377
-    {"wizard_find_local_hb_tooltip", "wizard_find_local_hb_tooltip"},  // 378
-    {"info_mergefolder", "info_mergefolder"},  // 379
-    {"connection_password", "connection_password"},  // 380
-    {"status_desc_uptodate", "status_desc_uptodate"},  // 381
-    {"tray_uptodate", "tray_uptodate"},  // 382
-    {"tutorial_fourth_desc", "tutorial_fourth_desc"},  // 383
-    {"label_downloading", "label_downloading"},  // 384
-    {"msg_startup", "msg_startup"},  // 385
-    {"month_dec", "month_dec"},  // 386
-    {"title_changefolder", "title_changefolder"},  // 387
-    {"col_file_destination", "col_file_destination"},  // 388
-    {"err_invalid_port_number", "err_invalid_port_number"},  // 389
-    {"setting_proxy_sys_proxy", "setting_proxy_sys_proxy"},  // 390
-    {"btn_back", "btn_back"},  // 391
-    {"main_status_error", "main_status_error"},  // 392
-    {"setting_tab_option", "setting_tab_option"},  // 393
-    {"err_share_mountpt_short", "err_share_mountpt_short"},  // 394
-    {"read_only", "read_only"},  // 395
-    {"quick_mode_finish_page_title", "quick_mode_finish_page_title"},  // 396
-    {"msi_button_ok", "msi_button_ok"},  // 397
-    {"manage_share_status", "manage_share_status"},  // 398
-    {"status_desc_errversion_server", "status_desc_errversion_server"},  // 399
-    {"manage_setting_not_save", "manage_setting_not_save"},  // 400
-    {"setting_proxy_no_proxy", "setting_proxy_no_proxy"},  // 401
-    {"tray_main_app", "tray_main_app"},  // 402
-    {"manage_share_enable", "manage_share_enable"},  // 403
-    {"wizard_welcome_desc", "wizard_welcome_desc"},  // 404
-    {"msg_mergefolder", "msg_mergefolder"},  // 405
-    {"session_unlink_confirm_msg", "session_unlink_confirm_msg"},  // 406
-    {"msi_button_finish", "msi_button_finish"},  // 407
-    {"conn_mode_wan", "conn_mode_wan"},  // 408
-    {"setting_filter_table_title", "setting_filter_table_title"},  // 409
-    {"status_desc_perm_short", "status_desc_perm_short"},  // 410
-    {"history_time", "history_time"},  // 411
-    {"history_upload", "history_upload"},  // 412
-    {"conn_mode_lan", "conn_mode_lan"},  // 413
-    {"wizard_set_sync_folder_title", "wizard_set_sync_folder_title"},  // 414
-    {"setting_filter_point_prefix", "setting_filter_point_prefix"},  // 415
-    {"status_desc_abnormal_short", "status_desc_abnormal_short"},  // 416
-    {"msi_readyremove_dlg_subtitle", "msi_readyremove_dlg_subtitle"},  // 417
-    {"msg_info_description", "msg_info_description"},  // 418
-    {"tutorial_third_desc", "tutorial_third_desc"},  // 419
-    {"block_file_name_label", "block_file_name_label"},  // 420
-    {"wizard_summary_table_path", "wizard_summary_table_path"},  // 421
-    {"history_file_type", "history_file_type"},  // 422
-    {"manage_proxy_chk_manual", "manage_proxy_chk_manual"},  // 423
-    {"err_pnxdisable_short", "err_pnxdisable_short"},  // 424
-    {"err_abnormal", "err_abnormal"},  // 425
-    {"msi_readyremove_dlg_description", "msi_readyremove_dlg_description"},  // 426
-    {"setting_tab_proxy", "setting_tab_proxy"},  // 427
-    {"context_menu_resume_folder", "context_menu_resume_folder"},  // 428
-    {"msi_exit_dlg_title", "msi_exit_dlg_title"},  // 429
-    {"msi_button_remove", "msi_button_remove"},  // 430
-    {"wizard_summary_table_server", "wizard_summary_table_server"},  // 431
-    {"got_it", "got_it"},  // 432
-    {"time_just_now", "time_just_now"},  // 433
-    {"main_queue_locking", "main_queue_locking"},  // 434
-    {"wizard_setsyncfolder_desc", "wizard_setsyncfolder_desc"},  // 435
-    {"msg_download_downloading", "msg_download_downloading"},  // 436
-    {"btn_choseother", "btn_choseother"},  // 437
-    {"msi_fatalerror_dlg_description2", "msi_fatalerror_dlg_description2"},  // 438
-    {"wizard_connection_title", "wizard_connection_title"},  // 439
-    {"err_share_limit", "err_share_limit"},  // 440
-    {"main_queue_uploading", "main_queue_uploading"},  // 441
-    {"session_add_btn", "session_add_btn"},  // 442
-    {"msi_button_next", "msi_button_next"},  // 443
-    {"manage_option_show_filtered_icons", "manage_option_show_filtered_icons"},  // 444
-    {"manage_proxy_tab_name", "manage_proxy_tab_name"},  // 445
-    {"prev_x_pages", "prev_x_pages"},  // 446
-    {"msi_progress_dlg_subtitle", "msi_progress_dlg_subtitle"},  // 447
-    {"history_file_name", "history_file_name"},  // 448
-    {"tray_exit", "tray_exit"},  // 449
-    {"session_unlink_btn", "session_unlink_btn"},  // 450
-    {"no_need", "no_need"},  // 451
-    {"msg_enabled", "msg_enabled"},  // 452
+    {"msi_userexit_dlg_subtitle", "The wizard was stopped before it finished."},  // 55
+    {"msi_maintenance_dlg_change_label", "&Change"},  // 56
+    {"err_auth_short", "Authentication failed"},  // 57
+    {"err_proto", "The server answered in a way Driftwell does not understand. Update the server and the client to the latest version."},  // 58
+    {"first_page", "First page"},  // 59
+    {"err_sync_direction_mismatch", "The sync direction of this folder differs from the one set on the server."},  // 60
+    {"main_desc_processing_file", "Processing %1"},  // 61
+    {"selective_sync_file_title", "Files"},  // 62
+    {"history_type", "Type"},  // 63
+    {"unlink_connection", "Unlink"},  // 64
+    {"wizard_create_local_folder_failed", "The folder %1 could not be created."},  // 65
+    {"wizard_setup_advan_mode_title", "Custom setup"},  // 66
+    {"err_version_server", "The server runs an older version that Driftwell does not support. Update the server."},  // 67
+    {"main_queue_preparing", "Preparing..."},  // 68
+    {"sync_direction_mismatch", "The sync direction differs from the server's setting."},  // 69
+    {"msi_button_back", "< &Back"},  // 70
+    {"btn_resume", "Resume"},  // 71
+    {"wizard_summary_title", "Summary"},  // 72
+    {"err_ip_not_allowed", "The server does not accept connections from this IP address. Ask your administrator for access."},  // 73
+    {"selective_sync_loading", "Loading..."},  // 74
+    {"tray_syncing_file_cnt", "Syncing %1 files"},  // 75
+    {"status_desc_diskfull", "The disk on the server is full."},  // 76
+    {"main_queue_completed", "Completed"},  // 77
+    {"tray_about", "About %1"},  // 78
+    {"msg_localdiskfull", "The disk on this computer is full. Syncing is paused."},  // 79
+    {"context_menu_filter_folder", "Stop syncing this folder"},  // 80
+    {"title_value", "Value"},  // 81
+    {"status_desc_localdisk_full", "The disk on this computer is full."},  // 82
+    {"msi_button_no", "&No"},  // 83
+    {"msg_unlinking", "Unlinking..."},  // 84
+    {"err_network", "The network connection was lost. Driftwell will reconnect automatically."},  // 85
+    {"msi_exit_dlg_description", "Click Finish to close the wizard."},  // 86
+    {"tray_click_to_update", "A new version is ready. Click to install it."},  // 87
+    {"wizard_readonly_backup_desc", "You only have read access to this folder. Files will be downloaded but never uploaded."},  // 88
+    {"thursday", "Thursday"},  // 89
+    {"use_relaylink", "Allow connections through the relay service"},  // 90
+    {"main_status_connecting", "Connecting..."},  // 91
+    {"wizard_share_nonexist_sync_folder_warning", "The shared folder no longer exists on the server."},  // 92
+    {"btn_edit_connection", "Edit connection"},  // 93
+    {"err_version_client", "This version of Driftwell is too old for the server. Install the latest version."},  // 94
+    {"msi_ready_dlg_text", "Click Cancel to exit the wizard without installing."},  // 95
+    {"version", "Version"},  // 96
+    {"wizard_diskfull_sync_folder_warning", "There is not enough free space on this computer for this folder."},  // 97
+    {"err_autoconn_ctrl", "The relay service could not find a route to your server. Check that the server is online."},  // 98
+    {"err_share_not_mounted", "The shared folder on the server is not mounted. Mount it on the server and try again."},  // 99
+    {"msg_folder_not_empty", "The folder is not empty. Its files will be merged with the files on the server."},  // 100
+    {"err_pnx_share_link", "Sharing links are not available through the relay service."},  // 101
+    {"status_desc_quotafull", "Your quota on the server is used up."},  // 102
+    {"history_rename", "Renamed"},  // 103
+    {"col_file_name", "File name"},  // 104
+    {"black_list_btn", "Excluded folders..."},  // 105
+    {"err_database", "The local sync database is damaged. Unlink the folder and link it again to rebuild it."},  // 106
+    {"msi_readyrepair_dlg_description", "Click Repair to fix the installation of [ProductName]."},  // 107
+    {"connection_enter_otp", "Verification code:"},  // 108
+    {"manage_share_tab_name", "Shared folders"},  // 109
+    {"title_ip", "Server:"},  // 110
+    {"management_proxy_cancel_btn", "Cancel"},  // 111
+    {"monday", "Monday"},  // 112
+    {"desc_cannot_list_version", "The previous versions of this file cannot be listed."},  // 113
+    {"wizard_user_disable_sync_folder_warning", "Syncing of this folder was turned off by your administrator."},  // 114
+    {"msg_finish_way", "When syncing is finished:"},  // 115
+    {"err_max_tries", "Driftwell gave up after %1 attempts. Check your network and try again."},  // 116
+    {"tutorial_first_desc", "Put files into the Driftwell folder and they appear on your server and your other computers."},  // 117
+    {"msi_button_repair", "&Repair"},  // 118
+    {"msi_maintenance_dlg_remove_label", "&Remove"},  // 119
+    {"notify_abnormal_short", "Connection unstable"},  // 120
+    {"msi_ready_dlg_subtitle", "The wizard has everything it needs to begin the installation."},  // 121
+    {"wizard_summary_desc", "Check your settings, then click Done to start syncing."},  // 122
+    {"NSIS_NOT_ADMIN_CONFIRM", "You need administrator rights to install [ProductName]. Continue anyway?"},  // 123
+    {"tray_management_page", "Settings"},  // 124
+    {"btn_help", "Help"},  // 125
+    {"sunday", "Sunday"},  // 126
+    {"msg_finish", "Finished"},  // 127
+    {"pause_connection", "Pause"},  // 128
+    {"wizard_setup_repeat_warning", "The folder %1 is already synced by another task."},  // 129
+    {"msi_maintenance_dlg_subtitle", "Choose what you want to do."},  // 130
+    {"err_hb_change", "The server at this address has changed. Link the sync task again."},  // 131
+    {"main_sync_task", "Sync tasks"},  // 132
+    {"err_pnxdisable", "The relay service is turned off on the server. Connect directly or turn the service on."},  // 133
+    {"desc_inactive", "Driftwell is not connected to a server."},  // 134
+    {"title_conn_mode", "Connection type"},  // 135
+    {"wizard_setup_advan_mode_desc", "Choose the folders on the server and on this computer yourself."},  // 136
+    {"quick_mode_finish_page_more_detail", "To change what is synced, open the settings."},  // 137
+    {"err_ssl_change", "The server's security certificate has changed. Confirm that you trust the new certificate."},  // 138
+    {"err_disconn", "The connection to the server was closed."},  // 139
+    {"history_action", "Action"},  // 140
+    {"connection_unlinking", "Unlinking..."},  // 141
+    {"month_mar", "March"},  // 142
+    {"tooltip_folder_indexing", "Driftwell is indexing this folder."},  // 143
+    {"advanced_settings", "Advanced settings"},  // 144
+    {"status_desc_linking", "Connecting..."},  // 145
+    {"manage_proxy_server_port", "Port:"},  // 146
+    {"title_upgrade", "Update available"},  // 147
+    {"black_list_desc", "Folders in this list are never synced."},  // 148
+    {"btn_apply", "Apply"},  // 149
+    {"backup_chooser_destination", "Back up to:"},  // 150
+    {"wizard_setup_quick_mode_desc", "Sync your home folder on the server with a Driftwell folder on this computer."},  // 151
+    {"wizard_system_err_sync_folder_warning", "The folder list could not be loaded because of a system error."},  // 152
+    {"selective_sync_direction_title", "Sync direction"},  // 153
+    {"msi_maintenance_welcome_dlg_subtitle", "Change, repair or remove [ProductName]."},  // 154
+    {"wizard_set_sync_folder_desc", "Files in this folder are synced with the server."},  // 155
+    {"msi_fatalerror_dlg_description1", "[ProductName] could not be installed. Your computer has not been changed."},  // 156
+    {"file_max_size_label", "Maximum file size"},  // 157
+    {"msi_filesinuse_dlg_description", "The following programs use files that [ProductName] Setup must update."},  // 158
+    {"msi_maintenance_dlg_repair_tooltip", "Repair the installation"},  // 159
+    {"msi_ready_dlg_title", "Ready to install [ProductName]"},  // 160
+    {"setting_proxy_port", "Port:"},  // 161
+    {"setting_filter_max_size", "Do not sync files larger than:"},  // 162
+    {"setting_option_language_title", "Language:"},  // 163
+    {"msi_maintenance_dlg_repair_label", "&Repair"},  // 164
+    {"title_chart_local", "Space on this computer"},  // 165
+    {"col_file_status", "Status"},  // 166
+    {"col_file_size", "Size"},  // 167
+    {"main_queue_progress", "Progress"},  // 168
+    {"last_page", "Last page"},  // 169
+    {"msg_linking", "Connecting..."},  // 170
+    {"err_otp_enforced", "Your administrator requires two-step verification. Turn it on for your account first."},  // 171
+    {"file_selective_sync", "Choose files to sync"},  // 172
+    {"msi_maintenance_dlg_remove_tooltip", "Remove the program"},  // 173
+    {"tray_current_syncing", "Now syncing: %1"},  // 174
+    {"setting_proxy_password", "Password:"},  // 175
+    {"manage_option_enable_startup", "Start Driftwell when I log in"},  // 176
+    {"wizard_welcome_info", "Sign in to your server to get started."},  // 177
+    {"share_enabled", "Enabled"},  // 178
+    {"err_share_fail_enable", "The shared folder could not be turned on for syncing."},  // 179
+    {"conn_mode_direct", "Direct connection"},  // 180
+    {"title_ssl_enable", "Encrypted connection"},  // 181
+    {"history_to", "To:"},  // 182
+    {"status_desc_auth_short", "Authentication failed"},  // 183
+    {"msg_info", "Information"},  // 184
+    {"open_file", "Open"},  // 185
+    {"month_sep", "September"},  // 186
+    {"msi_maintenance_dlg_change_text_disabled", "[ProductName] has no features that can be changed."},  // 187
+    {"next_x_pages", "Next %1 pages"},  // 188
+    {"wizard_setup_mode_page_desc", "Quick setup uses the recommended settings. Custom setup lets you choose each one."},  // 189
+    {"session_resume_btn", "Resume"},  // 190
+    {"manage_share_title", "Shared folders"},  // 191
+    {"conflict_policy_desc", "When a file was changed on both sides:"},  // 192
+    {"error_zero_version", "This file has no earlier versions."},  // 193
+    {"month_apr", "April"},  // 194
+    {"msi_button_retry", "&Retry"},  // 195
+    {"btn_select", "Select..."},  // 196
+    {"tutorial_second_desc", "A green check mark means a file is up to date."},  // 197
+    {"btn_manage", "Manage"},  // 198
+    {"backup_chooser_choose_source", "Choose the folders to back up"},  // 199
+    {"manage_option_language", "Language:"},  // 200
+    {"file_black_list_label", "Excluded files:"},  // 201
+    {"connection_unlink_confirm", "Unlinking stops syncing with this server. Your files stay on this computer. Continue?"},  // 202
+    {"open_contain_folder", "Show in Finder"},  // 203
+    {"msi_fatalerror_dlg_subtitle", "An error stopped the [ProductName] Setup Wizard."},  // 204
+    {"wizard_ssl_verify_fail_sync_folder_warning", "The server's security certificate could not be verified."},  // 205
+    {"manage_proxy_title", "Proxy"},  // 206
+    {"btn_ok", "OK"},  // 207
+    {"tutorial_second_title", "Sync status at a glance"},  // 208
+    {"msi_maintenance_dlg_remove_text", "Removes [ProductName] from this computer. Your synced files stay where they are."},  // 209
+    {"wizard_invalid_sync_folder_warning", "This folder cannot be used for syncing. Choose another one."},  // 210
+    {"selective_sync_folder_title", "Folders"},  // 211
+    {"notify_new_share", "%1 shared the folder \"%2\" with you."},  // 212
+    {"msg_disabled", "Disabled"},  // 213
+    {"wizard_setup_repeat_warning2", "Choose a folder that no other sync task uses."},  // 214
+    {"msi_readyremove_dlg_text", "Your synced files and folders are not deleted."},  // 215
+    {"update_pkg_for_selective_sync", "Update Driftwell to use selective sync."},  // 216
+    {"setting_option_language_default", "System default"},  // 217
+    {"manage_option_enable_ssl", "Use an encrypted connection (HTTPS)"},  // 218
+    {"btn_start_now", "Start now"},  // 219
+    {"advan_setup_wizard", "Custom setup"},  // 220
+    {"manage_share_change_folder", "Change folder..."},  // 221
+    {"wizard_setsyncfolder_title", "Choose folders"},  // 222
+    {"setting_filter_zero_desc", "0 means no limit."},  // 223
+    {"status_desc_errversion_client", "This version of Driftwell is too old for the server. Install the latest version."},  // 224
+    {"msi_button_print", "&Print"},  // 225
+    {"history_keyword", "Keyword"},  // 226
+    {"one_way_sync_download", "Download only"},  // 227
+    {"open_sync_status", "Show sync status"},  // 228
+    {"btn_advanced", "Advanced"},  // 229
+    {"setting_filter_ignore_local_delete", "Keep files on the server when I delete them on this computer"},  // 230
+    {"treedialog_server_desc", "Choose a folder on the server."},  // 231
+    {"wizard_summary_table_local_title", "On this computer"},  // 232
+    {"setting_tab_connection", "Connection"},  // 233
+    {"setting_option_start_upon_login", "Start Driftwell when I log in"},  // 234
+    {"history_search", "Search"},  // 235
+    {"msg_download_done", "%1 has been downloaded."},  // 236
+    {"setting_proxy_ip", "Server:"},  // 237
+    {"msi_readyrepair_dlg_text", "Click Back to review your choice, or Cancel to exit the wizard."},  // 238
+    {"month_nov", "November"},  // 239
+    {"wizard_welcome_help", "Need help setting up? Open the online guide."},  // 240
+    {"msi_filesinuse_dlg_text", "Close these programs and click Retry, or click Ignore to continue anyway."},  // 241
+    {"manage_proxy_chk_sys_proxy", "Use the system proxy settings"},  // 242
+    {"msi_filesinuse_dlg_title", "Files in use"},  // 243
+    {"msi_eula_dlg_reject", "I &do not accept the terms of the license agreement"},  // 244
+    {"err_ssl_verify_fail", "The server's security certificate could not be verified."},  // 245
+    {"msg_catchevent", "Driftwell noticed changes in your folders and is syncing them."},  // 246
+    {"backup_chooser_no_folder_selected", "No folder selected."},  // 247
+    {"wizard_new_sync_folder_desc", "Choose another pair of folders to keep in sync."},  // 248
+    {"title_ip_detail", "Enter the server's host name, IP address or relay ID."},  // 249
+    {"msi_welcome_dlg_title", "{\\DwTitleLarge}Welcome to the [ProductName] Setup Wizard"},  // 250
+    {"msi_maintenance_dlg_description", "Select the operation you want to perform on [ProductName]."},  // 251
+    {"msg_test_username_fail", "The user name is not valid on this server."},  // 252
+    {"err_autoconn_invalidid", "The relay ID is not valid. Check the ID and try again."},  // 253
+    {"err_common", "Something went wrong. Try again later."},  // 254
+    {"tutorial_first_title", "Your Driftwell folder"},  // 255
+    {"context_menu_sendto_prefix", "Send to %1"},  // 256
+    {"msi_eula_dlg_description", "To install [ProductName], you must accept the terms of this agreement."},  // 257
+    {"msg_confirm_unlink", "Do you really want to unlink this computer from the server?"},  // 258
+    {"tutorial_third_title", "Work from the menu bar"},  // 259
+    {"tutorial_third_desc_2", "From there you can pause syncing or open your settings."},  // 260
+    {"err_relaylink_file_sharing", "Files cannot be shared through a relay connection."},  // 261
+    {"msg_network_drive_watch", "Changes on network drives may be detected with a delay."},  // 262
+    {"btn_pause", "Pause"},  // 263
+    {"main_desc_processing_count", "%1 of %2 files processed"},  // 264
+    {"msg_seldir", "Select a folder"},  // 265
+    {"btn_wizard_readonly_no", "Choose another folder"},  // 266
+    {"conn_mode_reading", "Detecting the connection type..."},  // 267
+    {"backup_chooser_desc", "The folders you choose are copied to the server. Deleting a file on this computer does not delete its backup."},  // 268
+    {"hb_overview", "Server overview"},  // 269
+    {"setting_proxy_err_ipport_empty", "Enter the address and the port of the proxy server."},  // 270
+    {"btn_ssl_continue", "Continue"},  // 271
+    {"manage_share_local_syncfolder", "Local folder"},  // 272
+    {"label_locked_file", "This file is locked by another program."},  // 273
+    {"msi_maintenance_dlg_title", "{\\DwHeading}Change, repair or remove installation"},  // 274
+    {"title_standby", "Standing by"},  // 275
+    {"manage_proxy_chk_no_proxy", "No proxy"},  // 276
+    {"tray_resume", "Resume"},  // 277
+    {"tray_relink", "Reconnect"},  // 278
+    {"loading", "Loading..."},  // 279
+    {"msi_maintenance_welcome_dlg_title", "{\\DwTitleLarge}Welcome to the [ProductName] Maintenance Wizard"},  // 280
+    {"msi_cancel_dlg_text", "Do you really want to cancel the installation of [ProductName]?"},  // 281
+    {"err_link_same_hb", "This computer is already linked to this server."},  // 282
+    {"context_menu_share_link", "Copy a sharing link"},  // 283
+    {"msg_about", "%1\\nVersion:\\t%2"},  // 284
+    {"yes", "Yes"},  // 285
+    {"err_auth", "The user name or password is incorrect. Enter them again."},  // 286
+    {"msg_shareitem_delete", "Remove this shared folder from the list?"},  // 287
+    {"wizard_welcome_footer_info", "Your files stay on your own server."},  // 288
+    {"err_shareitem_delete", "The shared folder could not be removed from the list."},  // 289
+    {"msg_sub_slogan", "Private, fast and always up to date"},  // 290
+    {"tray_help", "Help"},  // 291
+    {"status_desc_syncing", "Syncing..."},  // 292
+    {"context_menu_filter_folders", "Stop syncing these folders"},  // 293
+    {"recently_changed_title", "Recently changed"},  // 294
+    {"tray_unstable", "Connection unstable"},  // 295
+    {"notify_abnormal", "The connection to the server is unstable. Driftwell keeps trying to reconnect."},  // 296
+    {"msi_welcome_dlg_description", "The Setup Wizard will install [ProductName] on your computer.\\nClick Next to continue or Cancel to exit the Setup Wizard."},  // 297
+    {"manage_option_title", "Options"},  // 298
+    {"msi_eula_dlg_subtitle", "Read the following license agreement carefully."},  // 299
+    {"session_pause_btn", "Pause"},  // 300
+    {"title_chart_tray", "Sync activity"},  // 301
+    {"selective_sync", "Selective sync"},  // 302
+    {"context_menu_version_browse", "Browse previous versions"},  // 303
+    {"title_bubble_sharing", "%1 shared a folder with you"},  // 304
+    {"main_settings", "Settings"},  // 305
+    {"time_day_ago", "%1 days ago"},  // 306
+    {"language_default", "System default"},  // 307
+    {"err_otp_invalid", "The verification code is incorrect or has expired."},  // 308
+    {"manage_proxy_label_username", "User name:"},  // 309
+    {"err_share_nonexist_short", "Shared folder not found"},  // 310
+    {"history_customize", "Custom range"},  // 311
+    {"msg_folder_readonly", "This folder is read-only. Changes on this computer are not uploaded."},  // 312
+    {"title_usr", "User name:"},  // 313
+    {"history_reset", "Reset"},  // 314
+    {"err_inval", "Invalid parameter."},  // 315
+    {"month_jun", "June"},  // 316
+    {"err_invalid", "Invalid parameter."},  // 317
+    {"main_desc_last_upload", "Last upload: %1"},  // 318
+    {"finish", "Finish"},  // 319
+    {"tray_status_paused", "Paused"},  // 320
+    {"wizard_connection_setting_desc", "You can change the connection settings later."},  // 321
+    {"file_ext_label", "File extension"},  // 322
+    {"wizard_welcome_title", "Welcome to Driftwell"},  // 323
+    {"month_feb", "February"},  // 324
+    {"history_file", "File"},  // 325
+    {"manage_option_merge_mode", "Merge files when linking a folder"},  // 326
+    {"err_backup_fail", "The backup could not be completed. Check the destination folder and try again."},  // 327
+    {"history_from", "From:"},  // 328
+    {"main_queue_waiting", "Waiting"},  // 329
+    {"network_management_page_btn", "Network settings"},  // 330
+    {"setting_filter_table_desc", "Files with these extensions are not synced."},  // 331
+    {"wizard_connection_desc", "Enter the address of your server and your account details."},  // 332
+    {"wizard_conflict_sync_folder_warning", "This folder overlaps with a folder that is already synced."},  // 333
+    {"msi_cancel_dlg_title", "Cancel installation"},  // 334
+    {"err_share_perm_short", "Permission denied"},  // 335
+    {"err_version_short", "Version not supported"},  // 336
+    {"wizard_quotafull_sync_folder_warning", "There is not enough quota left on the server for this folder."},  // 337
+    {"btn_next", "Next"},  // 338
+    {"saturday", "Saturday"},  // 339
+    {"col_computer_name", "Computer name"},  // 340
+    {"setting_proxy_err_invalid_port", "The port must be a number from 1 to 65535."},  // 341
+    {"progress_preparing", "Preparing..."},  // 342
+    {"setting_filter_table_editor_tooltip", "Double-click to edit the extension"},  // 343
+    {"msi_fatalerror_dlg_title", "{\\DwTitleLarge}The installation of [ProductName] failed"},  // 344
+    {"msi_readyrepair_dlg_subtitle", "The wizard is ready to repair [ProductName]."},  // 345
+    {"title_name", "Name"},  // 346
+    {"history_download", "Downloaded"},  // 347
+    {"month_jul", "July"},  // 348
+    {"conflict_policy_overwrite_client", "Always use the file from the server"},  // 349
+    {"msg_checkpass", "Checking your password..."},  // 350
+    {"msi_maintenance_dlg_change_text", "Lets you change which features of [ProductName] are installed."},  // 351
+    {"msg_test_connect", "Test connection"},  // 352
+    {"msi_progress_dlg_status_label", "Status:"},  // 353
+    {"wizard_network_err_sync_folder_warning", "The folder list could not be loaded because of a network error."},  // 354
+    {"title_inactive", "Not connected"},  // 355
+    {"main_status_uptodate", "Up to date"},  // 356
+    {"btn_unlink", "Unlink"},  // 357
+    {"btn_done", "Done"},  // 358
+    {"context_menu_resume_folders", "Sync these folders again"},  // 359
+    {"msi_button_ignore", "&Ignore"},  // 360
+    {"title_icon_double_clicked", "Double-click the icon to open Driftwell."},  // 361
+    {"wizard_create_driftwell_folder", "Create a Driftwell folder in my home folder"},  // 362
+    {"tray_opendir", "Open the Driftwell folder"},  // 363
+    {"tuesday", "Tuesday"},  // 364
+    {"msi_exit_dlg_launch", "&Start [ProductName] now"},  // 365
+    {"main_queue_column_progress", "Progress"},  // 366
+    {"title_ssl_warning", "Security warning"},  // 367
+    {"try_syncing", "Try to sync again"},  // 368
+    {"NSIS_DRIFTWELL_INSTALLED_CURRENT", "This version of [ProductName] is already installed."},  // 369
+    {"month_aug", "August"},  // 370
+    {"open_main_app", "Open Driftwell"},  // 371
+    {"del", "Remove"},  // 372
+    {"msg_connectsucc", "Connected successfully."},  // 373
+    {"manage_proxy_chk_account", "The proxy server requires a password"},  // 374
+    {"msi_maintenance_dlg_change_tooltip", "Change the installed features"},  // 375
+    {"msi_filesinuse_dlg_text2", "If you continue, you may have to restart your computer afterwards."},  // 376
+    {"folder_selective_sync", "Choose folders to sync"},  // 377
+    {"wizard_find_local_hb_tooltip", "Search for servers on this network"},  // 378
+    {"info_mergefolder", "Files in this folder will be merged with the files on the server. Nothing is deleted."},  // 379
+    {"connection_password", "Password:"},  // 380
+    {"status_desc_uptodate", "Up to date"},  // 381
+    {"tray_uptodate", "Up to date"},  // 382
+    {"tutorial_fourth_desc", "Changed a file by mistake? Restore an earlier version from the server."},  // 383
+    {"label_downloading", "Downloading..."},  // 384
+    {"msg_startup", "Driftwell is starting..."},  // 385
+    {"month_dec", "December"},  // 386
+    {"title_changefolder", "Change sync folder"},  // 387
+    {"col_file_destination", "Destination"},  // 388
+    {"err_invalid_port_number", "The port number must be between 1 and 65535."},  // 389
+    {"setting_proxy_sys_proxy", "Use the system proxy settings"},  // 390
+    {"btn_back", "Back"},  // 391
+    {"main_status_error", "Error"},  // 392
+    {"setting_tab_option", "Options"},  // 393
+    {"err_share_mountpt_short", "Mount point not available"},  // 394
+    {"read_only", "Read-only"},  // 395
+    {"quick_mode_finish_page_title", "You are all set"},  // 396
+    {"msi_button_ok", "OK"},  // 397
+    {"manage_share_status", "Status"},  // 398
+    {"status_desc_errversion_server", "The server runs an older version that Driftwell does not support. Update the server."},  // 399
+    {"manage_setting_not_save", "Your changes have not been saved. Save them now?"},  // 400
+    {"setting_proxy_no_proxy", "No proxy"},  // 401
+    {"tray_main_app", "Open Driftwell"},  // 402
+    {"manage_share_enable", "Sync"},  // 403
+    {"wizard_welcome_desc", "Driftwell keeps the files on this computer and on your server in sync."},  // 404
+    {"msg_mergefolder", "Merge the files in this folder with those on the server?"},  // 405
+    {"session_unlink_confirm_msg", "Do you really want to remove this sync task? Files already synced stay on this computer."},  // 406
+    {"msi_button_finish", "&Finish"},  // 407
+    {"conn_mode_wan", "Internet"},  // 408
+    {"setting_filter_table_title", "File types not to sync"},  // 409
+    {"status_desc_perm_short", "Permission denied"},  // 410
+    {"history_time", "Time"},  // 411
+    {"history_upload", "Uploaded"},  // 412
+    {"conn_mode_lan", "Local network"},  // 413
+    {"wizard_set_sync_folder_title", "Sync folder on this computer"},  // 414
+    {"setting_filter_point_prefix", "Extensions start with a dot, for example .tmp"},  // 415
+    {"status_desc_abnormal_short", "Connection unstable"},  // 416
+    {"msi_readyremove_dlg_subtitle", "The wizard is ready to remove [ProductName]."},  // 417
+    {"msg_info_description", "Your changes were saved."},  // 418
+    {"tutorial_third_desc", "Click the Driftwell icon in the menu bar to see what is being synced."},  // 419
+    {"block_file_name_label", "File names not to sync:"},  // 420
+    {"wizard_summary_table_path", "Folder:"},  // 421
+    {"history_file_type", "File type"},  // 422
+    {"manage_proxy_chk_manual", "Set up the proxy manually"},  // 423
+    {"err_pnxdisable_short", "Relay service disabled"},  // 424
+    {"err_abnormal", "The connection is unstable. Driftwell keeps trying."},  // 425
+    {"msi_readyremove_dlg_description", "Click Remove to remove [ProductName] from this computer."},  // 426
+    {"setting_tab_proxy", "Proxy"},  // 427
+    {"context_menu_resume_folder", "Sync this folder again"},  // 428
+    {"msi_exit_dlg_title", "{\\DwTitleLarge}[ProductName] has been installed"},  // 429
+    {"msi_button_remove", "&Remove"},  // 430
+    {"wizard_summary_table_server", "Server:"},  // 431
+    {"got_it", "Got it"},  // 432
+    {"time_just_now", "Just now"},  // 433
+    {"main_queue_locking", "Locked by another program"},  // 434
+    {"wizard_setsyncfolder_desc", "Choose a folder on the server and a folder on this computer to keep in sync."},  // 435
+    {"msg_download_downloading", "Downloading..."},  // 436
+    {"btn_choseother", "Choose another folder"},  // 437
+    {"msi_fatalerror_dlg_description2", "To try again, run the installer later. Click Finish to close the wizard."},  // 438
+    {"wizard_connection_title", "Connect to your server"},  // 439
+    {"err_share_limit", "You can sync at most %1 shared folders."},  // 440
+    {"main_queue_uploading", "Uploading..."},  // 441
+    {"session_add_btn", "Add"},  // 442
+    {"msi_button_next", "&Next >"},  // 443
+    {"manage_option_show_filtered_icons", "Show an icon on files that are not synced"},  // 444
+    {"manage_proxy_tab_name", "Proxy"},  // 445
+    {"prev_x_pages", "Previous %1 pages"},  // 446
+    {"msi_progress_dlg_subtitle", "Please wait while the wizard installs [ProductName]."},  // 447
+    {"history_file_name", "File name"},  // 448
+    {"tray_exit", "Quit Driftwell"},  // 449
+    {"session_unlink_btn", "Unlink"},  // 450
+    {"no_need", "No, thanks"},  // 451
+    {"msg_enabled", "Enabled"},  // 452
     {"app_name", "Driftwell Backup"},  // 453
-    {"msg_diskfull", "msg_diskfull"},  // 454
-    {"add", "add"},  // 455
-    {"manage_setting_no_change", "manage_setting_no_change"},  // 456
-    {"label_preparing", "label_preparing"},  // 457
-    {"two_way_sync", "two_way_sync"},  // 458
-    {"wednesday", "wednesday"},  // 459
-    {"col_create_time", "col_create_time"},  // 460
-    {"desc_cannot_share_link", "desc_cannot_share_link"},  // 461
-    {"setting_proxy_err_empty_username", "setting_proxy_err_empty_username"},  // 462
-    {"connection_use_relaylink", "connection_use_relaylink"},  // 463
-    {"history_last_month", "history_last_month"},  // 464
-    {"manage_share_loading", "manage_share_loading"},  // 465
-    {"err_short", "err_short"},  // 466
-    {"notify_new_share_short", "notify_new_share_short"},  // 467
-    {"wizard_set_sync_folder", "wizard_set_sync_folder"},  // 468
-    {"msi_maintenance_welcome_dlg_description", "msi_maintenance_welcome_dlg_description"},  // 469
-    {"conflict_policy_rename_conflict", "conflict_policy_rename_conflict"},  // 470
-    {"main_status_pause", "main_status_pause"},  // 471
-    {"msi_eula_dlg_accept", "msi_eula_dlg_accept"},  // 472
-    {"month_oct", "month_oct"},  // 473
-    {"month_may", "month_may"},  // 474
-    {"tutorial_fourth_title", "tutorial_fourth_title"},  // 475
-    {"msg_running", "msg_running"},  // 476
-    {"msi_ready_dlg_description", "msi_ready_dlg_description"},  // 477
-    {"file_max_size_limit", "file_max_size_limit"},  // 478
-    {"msi_userexit_dlg_title", "msi_userexit_dlg_title"},  // 479
-    {"tray_setinfo", "tray_setinfo"},  // 480
-    {"manage_proxy_server_ip", "manage_proxy_server_ip"},  // 481
-    {"tutorial_second_desc_2", "tutorial_second_desc_2"},  // 482
-    {"wizard_sync_folder_new_nas", "wizard_sync_folder_new_nas"},  // 483
-    {"manage_setting_applying", "manage_setting_applying"},  // 484
-    {"err_user_name_empty", "err_user_name_empty"},  // 485
-    {"quick_mode_finish_page_desc", "quick_mode_finish_page_desc"},  // 486
-    {"manage_share_name", "manage_share_name"},  // 487
-    {"manage_option_enable_desktop_notify", "manage_option_enable_desktop_notify"},  // 488
-    {"wizard_welcome_mask_desc", "wizard_welcome_mask_desc"},  // 489
-    {"setting_tab_filter", "setting_tab_filter"},  // 490
-    {"tray_hb_change", "tray_hb_change"},  // 491
-    {"action_unlink", "action_unlink"},  // 492
-    {"setting_tab_folder", "setting_tab_folder"},  // 493
-    {"main_queue_title", "main_queue_title"},  // 494
-    {"folder_name", "folder_name"},  // 495
-    {"wizard_setup_mode_page_title", "wizard_setup_mode_page_title"},  // 496
-    {"connection_username", "connection_username"},  // 497
-    {"err_init_failed", "err_init_failed"},  // 498
-    {"msi_maintenance_dlg_repair_text", "msi_maintenance_dlg_repair_text"},  // 499
-    {"history_date_range", "history_date_range"},  // 500
-    {"tray_pause", "tray_pause"},  // 501
-    {"tray_upgrade", "tray_upgrade"},  // 502
-    {"msg_summary", "msg_summary"},  // 503
-    {"link_new_nas", "link_new_nas"},  // 504
-    {"label_uploading", "label_uploading"},  // 505
-    {"btn_cancel", "btn_cancel"},  // 506
-    {"msi_exit_dlg_text", "msi_exit_dlg_text"},  // 507
-    {"btn_merge", "btn_merge"},  // 508
-    {"manage_sync_tab_name", "manage_sync_tab_name"},  // 509
-    {"msi_exit_dlg_subtitle", "msi_exit_dlg_subtitle"},  // 510
-    {"err_share_perm", "err_share_perm"},  // 511
-    {"msi_button_exit", "msi_button_exit"},  // 512
-    {"msg_share_bubble_suffix", "msg_share_bubble_suffix"},  // 513
-    {"title_status_info", "title_status_info"},  // 514
-    {"setting_proxy_username", "setting_proxy_username"},  // 515
-    {"manage_proxy_label_password", "manage_proxy_label_password"},  // 516
-    {"col_time", "col_time"},  // 517
-    {"manage_option_synchronization_mode", "manage_option_synchronization_mode"},  // 518
-    {"title_folder_readonly", "title_folder_readonly"},  // 519
-    {"err_hb_not_match", "err_hb_not_match"},  // 520
-    {"btn_proxy", "btn_proxy"},  // 521
-    {"open_folder", "open_folder"},  // 522
-    {"msg_error", "msg_error"},  // 523
-    {"desc_cannot_download", "desc_cannot_download"},  // 524
-    {"block_point_prefix", "block_point_prefix"},  // 525
-    {"block_file_table_title", "block_file_table_title"},  // 526
-    {"title_welcome", "title_welcome"},  // 527
-    {"err_proxy_ipport_empty", "err_proxy_ipport_empty"},  // 528
-    {"NSIS_DRIFTWELL_INSTALLED_NEWER", "NSIS_DRIFTWELL_INSTALLED_NEWER"},  // 529
-    {"treedialog_pc_title", "treedialog_pc_title"},  // 530
-    {"msg_progress", "msg_progress"},  // 531
-    {"err_quotafull", "err_quotafull"},  // 532
-    {"col_file_action", "col_file_action"},  // 533
-    {"msi_filesinuse_dlg_closeall", "msi_filesinuse_dlg_closeall"},  // 534
-    {"history_folder", "history_folder"},  // 535
-    {"err_local_sync_folder_miss", "err_local_sync_folder_miss"},  // 536
-    {"status_desc_version_short", "status_desc_version_short"},  // 537
-    {"msi_progress_dlg_text", "msi_progress_dlg_text"},  // 538
-    {"dont_show_msg", "dont_show_msg"},  // 539
-    {"status_desc_hb_changed", "status_desc_hb_changed"},  // 540
-    {"download_only", "download_only"},  // 541
-    {"conflict_dropbox", "conflict_dropbox"},  // 542
-    {"connection_ssl", "connection_ssl"},  // 543
-    {"manage_option_tab_name", "manage_option_tab_name"},  // 544
-    {"setting_proxy_manual", "setting_proxy_manual"},  // 545
-    {"btn_shareitem_delete", "btn_shareitem_delete"},  // 546
-    {"err_diskfull", "err_diskfull"},  // 547
-    {"today", "today"},  // 548
-    {"management_proxy_apply_btn", "management_proxy_apply_btn"},  // 549
-    {"files_update", "files_update"},  // 550
-    {"main_download_history", "main_download_history"},  // 551
-    {"msg_quotafull", "msg_quotafull"},  // 552
-    {"time_hour_ago", "time_hour_ago"},  // 553
-    {"no_valid_folder", "no_valid_folder"},  // 554
-    {"err_conflict", "err_conflict"},  // 555
-    {"history_yesterday", "history_yesterday"},  // 556
-    {"msi_readyremove_dlg_title", "msi_readyremove_dlg_title"},  // 557
-    {"msg_language_restart", "msg_language_restart"},  // 558
-    {"wizard_setup_repeat_warning_title", "wizard_setup_repeat_warning_title"},  // 559
-    {"tray_updating", "tray_updating"},  // 560
-    {"msi_eula_dlg_title", "msi_eula_dlg_title"},  // 561
-    {"wizard_summary_table_remote_title", "wizard_summary_table_remote_title"},  // 562
-    {"msg_folder_mount_point", "msg_folder_mount_point"},  // 563
-    {"title_folderpath", "title_folderpath"},  // 564
-    {"msi_filesinuse_dlg_subtitle", "msi_filesinuse_dlg_subtitle"},  // 565
-    {"history_no_data", "history_no_data"},  // 566
-    {"read_only_tooltip", "read_only_tooltip"},  // 567
-    {"history_page_title", "history_page_title"},  // 568
-    {"wizard_readonly_sync_folder_warning", "wizard_readonly_sync_folder_warning"},  // 569
-    {"manage_option_sync_mode", "manage_option_sync_mode"},  // 570
-    {"manage_option_use_black_white_icon", "manage_option_use_black_white_icon"},  // 571
-    {"wizard_setup_quick_mode_title", "wizard_setup_quick_mode_title"},  // 572
-    {"title_folder_nonempty", "title_folder_nonempty"},  // 573
-    {"msg_ssl_change", "msg_ssl_change"},  // 574
-    {"setting_option_language_restart", "setting_option_language_restart"},  // 575
-    {"err_full_short", "err_full_short"},  // 576
-    {"time_minute_ago", "time_minute_ago"},  // 577
-    {"err_otp_required", "err_otp_required"},  // 578
-    {"wizard_access_deny_sync_folder_warning", "wizard_access_deny_sync_folder_warning"},  // 579
-    {"wizard_new_sync_folder_title", "wizard_new_sync_folder_title"},  // 580
-    {"btn_continue", "btn_continue"},  // 581
-    {"block_file_name_tool_tip", "block_file_name_tool_tip"},  // 582
-    {"tray_data_checking", "tray_data_checking"},  // 583
-    {"msi_progress_dlg_description", "msi_progress_dlg_description"},  // 584
-    {"conflict_policy_compare_mtime", "conflict_policy_compare_mtime"},  // 585
-    {"msi_button_install", "msi_button_install"},  // 586
-    {"err_share_folder_conflict", "err_share_folder_conflict"},  // 587
-    {"msg_slogan", "msg_slogan"},  // 588
-    {"local_hb_search", "local_hb_search"},  // 589
-    {"setting_proxy_auth", "setting_proxy_auth"},  // 590
-    {"btn_wizard_readonly_yes", "btn_wizard_readonly_yes"},  // 591
-    {"wizard_welcome_slogan", "wizard_welcome_slogan"},  // 592
-    {"err_remote_not_mounted", "err_remote_not_mounted"},  // 593
-    {"wizard_finish_pairing_desc", "wizard_finish_pairing_desc"},  // 594
-    {"msi_readyrepair_dlg_title", "msi_readyrepair_dlg_title"},  // 595
-    {"msi_userexit_dlg_description2", "msi_userexit_dlg_description2"},  // 596
-    {"err_no_valid_folder", "err_no_valid_folder"},  // 597
-    {"wizard_setup_repeat_warning_desc", "wizard_setup_repeat_warning_desc"},  // 598
-    {"btn_settings", "btn_settings"},  // 599
+    {"msg_diskfull", "There is not enough free space on this computer."},  // 454
+    {"add", "Add"},  // 455
+    {"manage_setting_no_change", "Nothing was changed."},  // 456
+    {"label_preparing", "Preparing..."},  // 457
+    {"two_way_sync", "Two-way sync"},  // 458
+    {"wednesday", "Wednesday"},  // 459
+    {"col_create_time", "Created"},  // 460
+    {"desc_cannot_share_link", "A sharing link cannot be created for this item."},  // 461
+    {"setting_proxy_err_empty_username", "Enter the user name for the proxy server."},  // 462
+    {"connection_use_relaylink", "Allow connections through the relay service"},  // 463
+    {"history_last_month", "Last 30 days"},  // 464
+    {"manage_share_loading", "Loading..."},  // 465
+    {"err_short", "Error"},  // 466
+    {"notify_new_share_short", "New shared folder"},  // 467
+    {"wizard_set_sync_folder", "Change..."},  // 468
+    {"msi_maintenance_welcome_dlg_description", "The Maintenance Wizard lets you repair or remove [ProductName] on this computer.\\nClick Next to continue or Cancel to exit."},  // 469
+    {"conflict_policy_rename_conflict", "Keep both files and rename the older one"},  // 470
+    {"main_status_pause", "Paused"},  // 471
+    {"msi_eula_dlg_accept", "I &accept the terms of the license agreement"},  // 472
+    {"month_oct", "October"},  // 473
+    {"month_may", "May"},  // 474
+    {"tutorial_fourth_title", "Previous versions"},  // 475
+    {"msg_running", "%1 is already running."},  // 476
+    {"msi_ready_dlg_description", "Click Install to begin. To review or change any of your settings, click Back."},  // 477
+    {"file_max_size_limit", "Files larger than %1 MB are not synced."},  // 478
+    {"msi_userexit_dlg_title", "{\\DwTitleLarge}The installation of [ProductName] was interrupted"},  // 479
+    {"tray_setinfo", "Connection details"},  // 480
+    {"manage_proxy_server_ip", "Server:"},  // 481
+    {"tutorial_second_desc_2", "Blue arrows mean a file is being synced."},  // 482
+    {"wizard_sync_folder_new_nas", "Link another server"},  // 483
+    {"manage_setting_applying", "Applying the settings..."},  // 484
+    {"err_user_name_empty", "Enter a user name."},  // 485
+    {"quick_mode_finish_page_desc", "Your Driftwell folder is now in sync with the server."},  // 486
+    {"manage_share_name", "Folder name"},  // 487
+    {"manage_option_enable_desktop_notify", "Show desktop notifications"},  // 488
+    {"wizard_welcome_mask_desc", "Connecting..."},  // 489
+    {"setting_tab_filter", "Filters"},  // 490
+    {"tray_hb_change", "The server at this address has changed. Link the sync task again."},  // 491
+    {"action_unlink", "Unlink"},  // 492
+    {"setting_tab_folder", "Folders"},  // 493
+    {"main_queue_title", "Transfer queue"},  // 494
+    {"folder_name", "Folder name"},  // 495
+    {"wizard_setup_mode_page_title", "Choose a setup type"},  // 496
+    {"connection_username", "User name:"},  // 497
+    {"err_init_failed", "Driftwell could not start. Restart your computer and try again."},  // 498
+    {"msi_maintenance_dlg_repair_text", "Fixes missing or damaged files, shortcuts and registry entries of [ProductName]."},  // 499
+    {"history_date_range", "%1 to %2"},  // 500
+    {"tray_pause", "Pause"},  // 501
+    {"tray_upgrade", "Install update"},  // 502
+    {"msg_summary", "Summary"},  // 503
+    {"link_new_nas", "Link another server"},  // 504
+    {"label_uploading", "Uploading..."},  // 505
+    {"btn_cancel", "Cancel"},  // 506
+    {"msi_exit_dlg_text", "[ProductName] will keep the folders you choose in sync with your server."},  // 507
+    {"btn_merge", "Merge"},  // 508
+    {"manage_sync_tab_name", "Sync tasks"},  // 509
+    {"msi_exit_dlg_subtitle", "[ProductName] was installed successfully."},  // 510
+    {"err_share_perm", "You do not have permission to access this shared folder."},  // 511
+    {"msi_button_exit", "E&xit"},  // 512
+    {"msg_share_bubble_suffix", "and %1 more"},  // 513
+    {"title_status_info", "Status information"},  // 514
+    {"setting_proxy_username", "User name:"},  // 515
+    {"manage_proxy_label_password", "Password:"},  // 516
+    {"col_time", "Time"},  // 517
+    {"manage_option_synchronization_mode", "Sync mode:"},  // 518
+    {"title_folder_readonly", "Read-only folder"},  // 519
+    {"err_hb_not_match", "This folder belongs to a different server."},  // 520
+    {"btn_proxy", "Proxy"},  // 521
+    {"open_folder", "Open folder"},  // 522
+    {"msg_error", "Error"},  // 523
+    {"desc_cannot_download", "This file cannot be downloaded right now."},  // 524
+    {"block_point_prefix", "Patterns without a wildcard must match the whole file name."},  // 525
+    {"block_file_table_title", "Excluded file names"},  // 526
+    {"title_welcome", "Welcome"},  // 527
+    {"err_proxy_ipport_empty", "Enter the address and the port of the proxy server."},  // 528
+    {"NSIS_DRIFTWELL_INSTALLED_NEWER", "A newer version of [ProductName] is already installed."},  // 529
+    {"treedialog_pc_title", "This computer"},  // 530
+    {"msg_progress", "Progress"},  // 531
+    {"err_quotafull", "Your storage quota on the server is used up. Free up space or ask for a larger quota."},  // 532
+    {"col_file_action", "Action"},  // 533
+    {"msi_filesinuse_dlg_closeall", "&Close the programs automatically and restart them afterwards"},  // 534
+    {"history_folder", "Folder"},  // 535
+    {"err_local_sync_folder_miss", "The local sync folder cannot be found. It may have been moved or deleted."},  // 536
+    {"status_desc_version_short", "Version not supported"},  // 537
+    {"msi_progress_dlg_text", "The wizard is copying files and updating your system."},  // 538
+    {"dont_show_msg", "Do not show this message again"},  // 539
+    {"status_desc_hb_changed", "The server at this address has changed. Link the sync task again."},  // 540
+    {"download_only", "Download only"},  // 541
+    {"conflict_dropbox", "Keep both files and add the computer name to the copy from this computer"},  // 542
+    {"connection_ssl", "Use an encrypted connection (HTTPS)"},  // 543
+    {"manage_option_tab_name", "Options"},  // 544
+    {"setting_proxy_manual", "Set up the proxy manually"},  // 545
+    {"btn_shareitem_delete", "Remove"},  // 546
+    {"err_diskfull", "There is not enough free space on this computer. Free up space to continue syncing."},  // 547
+    {"today", "Today"},  // 548
+    {"management_proxy_apply_btn", "Apply"},  // 549
+    {"files_update", "Files updated"},  // 550
+    {"main_download_history", "Download history"},  // 551
+    {"msg_quotafull", "Your storage quota on the server is used up."},  // 552
+    {"time_hour_ago", "%1 hours ago"},  // 553
+    {"no_valid_folder", "No folder can be synced."},  // 554
+    {"err_conflict", "A conflict was found. Both versions were kept."},  // 555
+    {"history_yesterday", "Yesterday"},  // 556
+    {"msi_readyremove_dlg_title", "Ready to remove [ProductName]"},  // 557
+    {"msg_language_restart", "The new language is used after Driftwell restarts."},  // 558
+    {"wizard_setup_repeat_warning_title", "Folder already in use"},  // 559
+    {"tray_updating", "Updating Driftwell..."},  // 560
+    {"msi_eula_dlg_title", "License agreement"},  // 561
+    {"wizard_summary_table_remote_title", "On the server"},  // 562
+    {"msg_folder_mount_point", "%1 is a mount point and cannot be used as a sync folder."},  // 563
+    {"title_folderpath", "Folder path"},  // 564
+    {"msi_filesinuse_dlg_subtitle", "Some files that need to be updated are in use."},  // 565
+    {"history_no_data", "No events to show."},  // 566
+    {"read_only_tooltip", "Changes to this folder on this computer are not uploaded."},  // 567
+    {"history_page_title", "Sync history"},  // 568
+    {"wizard_readonly_sync_folder_warning", "You only have read access to this shared folder."},  // 569
+    {"manage_option_sync_mode", "Sync mode:"},  // 570
+    {"manage_option_use_black_white_icon", "Use a monochrome menu bar icon"},  // 571
+    {"wizard_setup_quick_mode_title", "Quick setup"},  // 572
+    {"title_folder_nonempty", "Folder is not empty"},  // 573
+    {"msg_ssl_change", "The server's certificate has changed. Trust the new certificate?"},  // 574
+    {"setting_option_language_restart", "The new language is used after Driftwell restarts."},  // 575
+    {"err_full_short", "Disk full"},  // 576
+    {"time_minute_ago", "%1 minutes ago"},  // 577
+    {"err_otp_required", "Enter the verification code from your authenticator app."},  // 578
+    {"wizard_access_deny_sync_folder_warning", "You do not have access to this folder."},  // 579
+    {"wizard_new_sync_folder_title", "New sync task"},  // 580
+    {"btn_continue", "Continue"},  // 581
+    {"block_file_name_tool_tip", "Use * to match any characters, for example ~*.tmp"},  // 582
+    {"tray_data_checking", "Checking files..."},  // 583
+    {"msi_progress_dlg_description", "This may take a few minutes."},  // 584
+    {"conflict_policy_compare_mtime", "Keep the file that was changed last"},  // 585
+    {"msi_button_install", "&Install"},  // 586
+    {"err_share_folder_conflict", "This folder is already synced with another shared folder."},  // 587
+    {"msg_slogan", "Sync with your own server"},  // 588
+    {"local_hb_search", "Search this network"},  // 589
+    {"setting_proxy_auth", "The proxy server requires a password"},  // 590
+    {"btn_wizard_readonly_yes", "Download only"},  // 591
+    {"wizard_welcome_slogan", "Your files, on every computer you use."},  // 592
+    {"err_remote_not_mounted", "The folder on the server is not available."},  // 593
+    {"wizard_finish_pairing_desc", "Setup is complete. Driftwell is now syncing your files."},  // 594
+    {"msi_readyrepair_dlg_title", "Ready to repair [ProductName]"},  // 595
+    {"msi_userexit_dlg_description2", "To install [ProductName] later, run the installer again."},  // 596
+    {"err_no_valid_folder", "No folder can be synced."},  // 597
+    {"wizard_setup_repeat_warning_desc", "One folder can belong to only one sync task."},  // 598
+    {"btn_settings", "Settings"},  // 599
 };
 
 constexpr char foldAscii(char c)
