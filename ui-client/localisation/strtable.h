@@ -6,6 +6,11 @@
 #include <QString>
 
 namespace StrTable {
+// The rows the launcher shows.
+constexpr int kIdPreparationDone = 16;  // "Driftwell is ready."
+constexpr int kIdPreparing = 54;        // "Driftwell is initializing..."
+constexpr int kIdAppName = 453;         // the dialog's title
+
 // Fills the table; call once on the main thread before any other thread runs.
 void InitStrTable();
 // The translated text, with "\n" and "\t" (backslash sequences) turned into a

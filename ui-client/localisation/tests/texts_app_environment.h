@@ -11,6 +11,7 @@
 #include <memory>
 
 #include <QCoreApplication>
+#include <QTranslator>
 
 class TextsAppEnvironment : public ::testing::Environment {
 public:
@@ -27,6 +28,18 @@ private:
     char arg0_[11] = "texts_test";
     char* argv_[2] = {arg0_, nullptr};
     std::unique_ptr<QCoreApplication> app_;
+};
+
+// Installs a translator for the lifetime of the scope.
+class ScopedTranslator {
+public:
+    explicit ScopedTranslator(QTranslator* t) : t_(t) { QCoreApplication::installTranslator(t_); }
+    ~ScopedTranslator() { QCoreApplication::removeTranslator(t_); }
+    ScopedTranslator(const ScopedTranslator&) = delete;
+    ScopedTranslator& operator=(const ScopedTranslator&) = delete;
+
+private:
+    QTranslator* t_;
 };
 
 #endif

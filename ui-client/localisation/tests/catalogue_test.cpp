@@ -1,0 +1,247 @@
+// Every compiled catalogue, read back through the resource collection the
+// launcher loads: exactly the table's English texts, each with a translation
+// that keeps the text's markers. LoadStr would hide a missing message behind
+// the English fall-back, so the translator is asked directly and the
+// catalogue's sources are listed by lconvert.
+#include "strtable.h"
+#include "texts_app_environment.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QLocale>
+#include <QMap>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QResource>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QTranslator>
+#include <QXmlStreamReader>
+
+namespace {
+
+::testing::Environment* const qtEnv = ::testing::AddGlobalTestEnvironment(new TextsAppEnvironment);
+
+struct Language {
+    const char* code;
+    const char* locale;  // for the month and weekday names
+};
+
+const Language kLanguages[] = {
+    {"enu", "en_US"}, {"cht", "zh_TW"}, {"chs", "zh_CN"}, {"jpn", "ja_JP"}, {"deu", "de_DE"},
+    {"krn", "ko_KR"}, {"fra", "fr_FR"}, {"ita", "it_IT"}, {"esn", "es_ES"}, {"ptb", "pt_BR"},
+    {"rus", "ru_RU"}, {"dan", "da_DK"}, {"nor", "nb_NO"}, {"sve", "sv_SE"}, {"nld", "nl_NL"},
+    {"plk", "pl_PL"}, {"hun", "hu_HU"}, {"ptg", "pt_PT"}, {"trk", "tr_TR"}, {"csy", "cs_CZ"},
+};
+
+const char* const kMonthKeys[] = {"month_jan", "month_feb", "month_mar", "month_apr", "month_may", "month_jun",
+                                  "month_jul", "month_aug", "month_sep", "month_oct", "month_nov", "month_dec"};
+const char* const kDayKeys[] = {"monday", "tuesday", "wednesday", "thursday", "friday", "saturday", "sunday"};
+
+// What must survive translation. Order of the arguments may change with the
+// grammar; an accelerator may move to another letter.
+struct Markers {
+    QStringList args;
+    QStringList markup;
+    QString style;
+    int newlines = 0;
+    int tabs = 0;
+    int accelerators = 0;
+    bool operator==(const Markers& o) const
+    {
+        return args == o.args && markup == o.markup && style == o.style && newlines == o.newlines
+               && tabs == o.tabs && accelerators == o.accelerators;
+    }
+};
+
+QStringList Matches(const QString& pattern, const QString& text)
+{
+    QStringList found;
+    auto it = QRegularExpression(pattern).globalMatch(text);
+    while (it.hasNext())
+        found << it.next().captured(0);
+    found.sort();
+    return found;
+}
+
+Markers MarkersOf(const QString& text)
+{
+    Markers m;
+    m.args = Matches(QStringLiteral("%[0-9]"), text);
+    m.markup = Matches(QStringLiteral("\\[[A-Za-z_]+\\]"), text);
+    m.style = QRegularExpression(QStringLiteral("^\\{\\\\[A-Za-z]+\\}")).match(text).captured(0);
+    m.newlines = text.count(QStringLiteral("\\n"));
+    m.tabs = text.count(QStringLiteral("\\t"));
+    m.accelerators = QString(text).remove(QStringLiteral("&&")).count(QLatin1Char('&'));
+    return m;
+}
+
+std::string Describe(const Markers& m)
+{
+    return QString("args(%1) markup(%2) style '%3' \\n x%4 \\t x%5 & x%6")
+        .arg(m.args.join(' '), m.markup.join(' '), m.style)
+        .arg(m.newlines)
+        .arg(m.tabs)
+        .arg(m.accelerators)
+        .toStdString();
+}
+
+// The untranslated table: each distinct English text, as the catalogues hold
+// it (backslash sequences as typed, not the control characters LoadStr makes),
+// with the ids using it.
+QMap<QString, QList<int>> TableTexts()
+{
+    QMap<QString, QList<int>> texts;
+    for (int id = 0; id < 600; ++id) {
+        QString text = StrTable::LoadStr(id);
+        texts[text.replace('\n', QLatin1String("\\n")).replace('\t', QLatin1String("\\t"))].append(id);
+    }
+    return texts;
+}
+
+struct Message {
+    QString context;
+    QString source;
+    QString translation;
+    bool plain = true;  // no comment, no plural forms, finished
+};
+
+// The catalogue's messages as lconvert reads them from the compiled file.
+QList<Message> ListCatalogue(const QString& code, QString* error)
+{
+    QTemporaryDir dir;
+    const QString qm = dir.filePath(code + ".qm");
+    if (!QFile::copy(":/" + code + ".qm", qm)) {
+        *error = "cannot copy the resource";
+        return {};
+    }
+    QProcess lconvert;
+    lconvert.start(DW_LCONVERT, {"-i", qm, "-of", "ts", "-o", "-"});
+    if (!lconvert.waitForFinished(60000) || lconvert.exitCode() != 0) {
+        *error = "lconvert failed: " + QString::fromUtf8(lconvert.readAllStandardError());
+        return {};
+    }
+    QList<Message> messages;
+    QString context;
+    QXmlStreamReader xml(lconvert.readAllStandardOutput());
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        const auto name = xml.name();
+        if (name == QLatin1String("name")) {
+            context = xml.readElementText();
+        } else if (name == QLatin1String("message")) {
+            Message m;
+            m.context = context;
+            m.plain = !xml.attributes().hasAttribute("numerus");
+            while (xml.readNextStartElement()) {
+                if (xml.name() == QLatin1String("source")) {
+                    m.source = xml.readElementText();
+                } else if (xml.name() == QLatin1String("translation")) {
+                    m.plain = m.plain && !xml.attributes().hasAttribute("type");
+                    m.translation = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+                } else {
+                    m.plain = false;  // comment, extra comment, numerusform
+                    xml.skipCurrentElement();
+                }
+            }
+            messages.append(m);
+        }
+    }
+    if (xml.hasError())
+        *error = xml.errorString();
+    return messages;
+}
+
+// Translations that are rightly the English text, per language, with the
+// reason: "code<TAB>English<TAB>reason" per line.
+QMap<QString, QMap<QString, QString>> SameAsEnglish()
+{
+    QMap<QString, QMap<QString, QString>> same;
+    QFile file(DW_SAME_AS_ENGLISH);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text)) << DW_SAME_AS_ENGLISH;
+    while (!file.atEnd()) {
+        const QStringList f = QString::fromUtf8(file.readLine()).chopped(1).split('\t');
+        if (f.size() == 3 && !f[0].startsWith('#'))
+            same[f[0]][f[1]] = f[2];
+    }
+    return same;
+}
+
+class Catalogue : public testing::TestWithParam<Language> {};
+
+TEST_P(Catalogue, TranslatesExactlyTheTableTextsKeepingTheirMarkers)
+{
+    const QString code = GetParam().code;
+    const QString path = ":/" + code + ".qm";
+    const bool cjk = QStringList{"cht", "chs", "jpn", "krn"}.contains(code);
+    const QResource resource(path);
+    ASSERT_TRUE(resource.isValid());
+    EXPECT_EQ(resource.compressionAlgorithm(), cjk ? QResource::NoCompression : QResource::ZlibCompression);
+
+    const QMap<QString, QList<int>> table = TableTexts();
+    ASSERT_EQ(496, table.size());
+    QString error;
+    const QList<Message> messages = ListCatalogue(code, &error);
+    ASSERT_TRUE(error.isEmpty()) << qPrintable(error);
+    QSet<QString> sources;
+    for (const Message& m : messages) {
+        EXPECT_EQ("global", m.context) << qPrintable(m.source);
+        EXPECT_TRUE(m.plain) << "comment, plural or unfinished: " << qPrintable(m.source);
+        EXPECT_TRUE(table.contains(m.source)) << "not a table text: " << qPrintable(m.source);
+        sources.insert(m.source);
+    }
+    EXPECT_EQ(496, messages.size());
+    EXPECT_EQ(496, sources.size());
+
+    QTranslator translator;
+    ASSERT_TRUE(translator.load(path));
+    const QMap<QString, QString> same = SameAsEnglish().value(code);
+    int reworded = 0;
+    for (auto it = table.begin(); it != table.end(); ++it) {
+        const QString& source = it.key();
+        const QString translation = translator.translate("global", source.toUtf8().constData());
+        SCOPED_TRACE(qPrintable(source));
+        ASSERT_FALSE(translation.isEmpty()) << "no message";
+        EXPECT_EQ(Describe(MarkersOf(source)), Describe(MarkersOf(translation))) << qPrintable(translation);
+        reworded += translation != source;
+        EXPECT_TRUE(code == "enu" || translation != source || same.contains(source))
+            << "left in English without a listed reason";
+    }
+    // The English catalogue has a house style of its own.
+    EXPECT_GT(reworded, code == "enu" ? 0 : 400);
+    for (auto it = same.begin(); it != same.end(); ++it) {
+        EXPECT_EQ(it.key(), translator.translate("global", it.key().toUtf8().constData()))
+            << "listed as the English text but translated: " << qPrintable(it.key());
+        EXPECT_FALSE(it.value().trimmed().isEmpty()) << "no reason for " << qPrintable(it.key());
+    }
+
+    const QString english[] = {StrTable::LoadStr(StrTable::kIdPreparationDone),
+                               StrTable::LoadStr(StrTable::kIdPreparing)};
+    ScopedTranslator installed(&translator);
+    // The launcher's rows; the English catalogue keeps the two dialog texts.
+    EXPECT_EQ("Talvane Driftwell", StrTable::LoadStr(StrTable::kIdAppName));
+    EXPECT_EQ(code == "enu", english[0] == StrTable::LoadStr(StrTable::kIdPreparationDone));
+    EXPECT_EQ(code == "enu", english[1] == StrTable::LoadStr(StrTable::kIdPreparing));
+    // Keyed by the English text alone, rows sharing a text cannot differ.
+    for (const QList<int>& ids : table) {
+        for (int id : ids)
+            EXPECT_EQ(StrTable::LoadStr(ids.first()), StrTable::LoadStr(id)) << "id " << id;
+    }
+    const QLocale locale(GetParam().locale);
+    for (int m = 1; m <= 12; ++m) {
+        const QString name = StrTable::LoadStr(StrTable::LookupStrID(kMonthKeys[m - 1]));
+        EXPECT_EQ(locale.standaloneMonthName(m).toCaseFolded(), name.toCaseFolded());
+    }
+    for (int d = 1; d <= 7; ++d) {
+        const QString name = StrTable::LoadStr(StrTable::LookupStrID(kDayKeys[d - 1]));
+        EXPECT_EQ(locale.standaloneDayName(d).toCaseFolded(), name.toCaseFolded());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, Catalogue, testing::ValuesIn(kLanguages),
+                         [](const testing::TestParamInfo<Language>& info) { return std::string(info.param.code); });
+
+}  // namespace
