@@ -2,6 +2,7 @@
 
 #include <climits>
 
+#include <QCloseEvent>
 #include <QCoreApplication>
 #include <QFont>
 #include <QIcon>
@@ -54,6 +55,18 @@ ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, 
         QStringLiteral(" QProgressDialog { background-color: WhiteSmoke; \n  vertical-align: middle } "));
 }
 
+void ProcessingProgressDialog::reject()
+{
+    // Escape ends here. Hiding the only window would end the event loop (and
+    // with it the launcher) half-way through an extraction.
+}
+
+void ProcessingProgressDialog::closeEvent(QCloseEvent* event)
+{
+    // Not QProgressDialog's: it would emit canceled(), which hides the dialog.
+    event->ignore();
+}
+
 Worker::Worker() : QObject(nullptr), m_thread(nullptr), m_service(nullptr)
 {
     m_service = new MacService();
@@ -64,6 +77,10 @@ Worker::Worker() : QObject(nullptr), m_thread(nullptr), m_service(nullptr)
 
 Worker::~Worker()
 {
+    // Destroying a running QThread aborts the process; a flow still running
+    // is let finish (quit only takes effect once HandleServicce returns).
+    QuitThread();
+    JoinThread();
     delete m_thread;
     delete m_service;
 }
@@ -110,7 +127,7 @@ void Worker::HandleServicce()
     emit sigServiceDone();
 }
 
-Launcher::Launcher() : QObject(nullptr), m_worker(nullptr), m_dialog(nullptr)
+Launcher::Launcher() : QObject(nullptr), m_worker(nullptr), m_dialog(nullptr), m_done(false)
 {
     m_worker = new Worker();
     connect(this, SIGNAL(sigStart()), m_worker, SLOT(HandleServicce()), Qt::AutoConnection);
@@ -153,6 +170,7 @@ void Launcher::LaunchDone()
     // HandleServicce has returned already, so the join is immediate.
     m_worker->QuitThread();
     m_worker->JoinThread();
+    m_done = true;
     QCoreApplication::quit();
 }
 

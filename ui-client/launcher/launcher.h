@@ -23,11 +23,19 @@ protected:
 };
 
 // The modal progress dialog: a percentage (0 to 100) and one line of text.
-// Everything is set in the constructor; it is not shown by it.
+// Everything is set in the constructor; it is not shown by it. The user cannot
+// dismiss it (Escape, the close button, a window manager's close): only the
+// launcher hides it once the work is done.
 class ProcessingProgressDialog : public QProgressDialog {
     Q_OBJECT
 public:
     ProcessingProgressDialog();
+
+public slots:
+    void reject() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
 };
 
 class Worker : public QObject {
@@ -36,7 +44,7 @@ public:
     // Creates the service, then the thread, and moves itself into that thread;
     // the thread is not started.
     Worker();
-    // The thread must have finished (LaunchDone joins it).
+    // Quits the thread and waits for it, so a flow still running ends first.
     ~Worker() override;
 
     void StartThread();
@@ -68,12 +76,15 @@ public:
     // Builds the worker and connects it and the progress bridge to the slots
     // below. The dialog is not made here.
     Launcher();
+    // Waits for a flow that is still running (see ~Worker).
     ~Launcher() override;
 
     // Starts the worker's thread (priority inherited).
     void Run();
     // Emits sigStart(): the worker begins its flow.
     void Start();
+    // True once LaunchDone has run: the only proper end of the event loop.
+    bool IsDone() const { return m_done; }
 
 signals:
     void sigStart();
@@ -95,6 +106,7 @@ private:
     Worker* m_worker;
     // Null until the worker asks for the dialog; all slots tolerate that.
     ProcessingProgressDialog* m_dialog;
+    bool m_done;
 };
 
 #endif

@@ -30,6 +30,8 @@ int main(int argc, char* argv[])
     fflush(stdout);
 
     QApplication app(argc, argv);
+    // The progress dialog is the only window; its hiding must not end the loop.
+    app.setQuitOnLastWindowClosed(false);
 
     // Opened before the single-instance test, whose refusal is logged. Without
     // a log folder the logger keeps writing to standard error.
@@ -57,7 +59,12 @@ int main(int argc, char* argv[])
     launcher->Run();
     launcher->Start();
 
-    const int result = app.exec();
+    int result = app.exec();
+    // Only LaunchDone ends the loop for good. Should anything else end it
+    // early, the dialog and the progress keep being served until the flow is
+    // done, rather than the launcher being torn down under its worker.
+    while (!launcher->IsDone())
+        result = app.exec();
     delete launcher;
     return result;
 }

@@ -1,0 +1,81 @@
+// The progress dialog on a real X server cannot be dismissed while the work
+// runs: Escape and a window manager's close request, during the stop of the
+// old client and again during the extraction, leave the dialog up and the
+// upgrade running to its end.
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QThread>
+
+#include "launcher_testkit.h"
+#include "x_display.h"
+
+namespace {
+
+const QByteArray kTitle = "Talvane Driftwell";
+
+// Escape, then a close request, at the dialog; whether both were sent.
+bool TryToDismiss(XDisplay& x, unsigned long window)
+{
+    return x.pressEscape(window) && x.requestClose(window);
+}
+
+TEST(LauncherDismiss, EscapeAndCloseRequestLeaveTheUpgradeRunning)
+{
+    TestBundle b;
+    ASSERT_TRUE(b.ok());
+    XDisplay x;
+    ASSERT_TRUE(x.start()) << "Xvfb did not come up";
+    // The old client ignores SIGTERM: the stop keeps the dialog up for five
+    // seconds before the extraction of a few thousand entries even begins.
+    ASSERT_TRUE(b.setBuild(1, ClientPackage(1, 0, ClientKind::IgnoresTerm)));
+    ASSERT_TRUE(b.run().exited_with_zero);
+    ASSERT_TRUE(b.waitForClientEvent("start 1"));
+    const QList<PackageEntry> package = ClientPackage(2, 8000);
+    ASSERT_TRUE(b.setBuild(2, package));
+
+    QProcessEnvironment env = b.environment();
+    env.remove("QT_QPA_PLATFORM");
+    env.insert("DISPLAY", x.name());
+    // Refused at once, so libdbus does not fork dbus-launch (see the screen test).
+    env.insert("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/driftwell-test-bus");
+    const int offset = b.log().size();
+    auto log = [&] { return b.log().mid(offset); };
+    QProcess launcher;
+    launcher.setProcessEnvironment(env);
+    launcher.start(b.executable(), QStringList());
+    ASSERT_TRUE(launcher.waitForStarted(kWaitTimeoutMs));
+
+    unsigned long dialog = 0;
+    QElapsedTimer timer;
+    timer.start();
+    while (dialog == 0 && launcher.state() == QProcess::Running && timer.elapsed() < kRunTimeoutMs) {
+        QThread::msleep(50);
+        dialog = x.viewableWindow(kTitle);
+    }
+    ASSERT_NE(0u, dialog) << "no dialog\n" << qPrintable(log());
+    ASSERT_TRUE(b.waitForClientEvent("term 1"));
+    EXPECT_TRUE(TryToDismiss(x, dialog));
+    QThread::msleep(1000);
+    EXPECT_EQ(dialog, x.viewableWindow(kTitle)) << "dismissed while the old client was being stopped";
+    EXPECT_TRUE(LinesWith(log(), "extract package:").isEmpty()) << "the stop ended early";
+
+    while (LinesWith(log(), "extract package:").isEmpty() && launcher.state() == QProcess::Running)
+        QThread::msleep(20);
+    EXPECT_TRUE(TryToDismiss(x, dialog));
+
+    ASSERT_TRUE(launcher.waitForFinished(kRunTimeoutMs));
+    const QString err = QString::fromUtf8(launcher.readAllStandardError());
+    EXPECT_EQ(QProcess::NormalExit, launcher.exitStatus()) << qPrintable(err);
+    EXPECT_EQ(0, launcher.exitCode()) << qPrintable(err);
+    EXPECT_TRUE(LinesWith(log(), "Failed to upgrade package").isEmpty());
+    EXPECT_EQ(1, LinesWith(log(), "user installation is ready").size());
+    const QMap<QString, QByteArray> tree = FileTree(b.userApp());
+    EXPECT_EQ(package.size(), tree.size());
+    for (const PackageEntry& e : package)
+        ASSERT_TRUE(e.data == tree.value(e.path)) << qPrintable(e.path);
+    EXPECT_TRUE(b.waitForClientEvent("start 2"));
+}
+
+}  // namespace

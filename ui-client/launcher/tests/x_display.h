@@ -1,0 +1,35 @@
+// A private X server (Xvfb) and what a user or a window manager does to the
+// launcher's windows on it. Kept apart from the tests: Xlib's macros (None,
+// Status, Bool) clash with other headers.
+#ifndef X_DISPLAY_H
+#define X_DISPLAY_H
+
+#include <QProcess>
+#include <QString>
+
+class XDisplay {
+public:
+    XDisplay() = default;
+    ~XDisplay();
+
+    // Starts the server on a display number of its choosing and connects.
+    bool start();
+    QString name() const { return name_; }
+
+    // The viewable top-level window with that title, 0 if there is none.
+    unsigned long viewableWindow(const QByteArray& title);
+    // Escape pressed and released while the window has the keyboard.
+    bool pressEscape(unsigned long window);
+    // A window manager's close request (WM_DELETE_WINDOW).
+    bool requestClose(unsigned long window);
+
+private:
+    XDisplay(const XDisplay&) = delete;
+    XDisplay& operator=(const XDisplay&) = delete;
+
+    QProcess server_;
+    QString name_;
+    void* display_ = nullptr;
+};
+
+#endif
