@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>From there you can pause syncing or open your settings.</source>
-        <translation>您可以從這裡暫停同步或開啟設定。</translation>
+        <translation>您可以在那裡暫停同步或開啟設定。</translation>
     </message>
     <message>
         <source>Files cannot be shared through a relay connection.</source>
