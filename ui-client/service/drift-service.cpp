@@ -1,6 +1,8 @@
 #include "drift-service.h"
 
+#include <unistd.h>
 #include <cstdio>
+#include <cstdlib>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -17,6 +19,8 @@ namespace {
 const char kComponent[] = "service_debug";
 // Backup names run from number 0 ("_tmp") to this one ("_tmp9").
 const int kLastBackupNumber = 9;
+const char kClientExecutable[] = "Contents/MacOS/drift-ui";
+const char kVersionRecord[] = "Contents/Resources/INFO";
 
 ustring ToUstring(const QString& text)
 {
@@ -56,6 +60,75 @@ void ReadVersionRecord(const ustring& path, VerInfo& info)
     for (const auto& f : fields) {
         if (record.contains(f.key))
             *f.field = ToUstring(record.value(f.key).toString());
+    }
+}
+
+// As the upgrade decision reads it: empty is 0, otherwise atoi.
+int BuildNumber(const VerInfo& info)
+{
+    return info.build_version.empty() ? 0 : std::atoi(info.build_version.c_str_utf8());
+}
+
+// The client executable and a record with a build: the package carries its
+// record last, so an extraction cut short never has one, and a removal takes
+// it first. build (if given) receives the record's build number.
+bool IsCompleteCopy(const ustring& folder, int* build)
+{
+    if (access((folder + "/" + kClientExecutable).c_str(), F_OK) != 0)
+        return false;
+    VerInfo record;
+    ReadVersionRecord(folder + "/" + kVersionRecord, record);
+    if (record.build_version.empty())
+        return false;
+    if (build != nullptr)
+        *build = BuildNumber(record);
+    return true;
+}
+
+// The number of the complete backup with the highest build (the lowest
+// number among equals), or -1.
+int NewestCompleteBackup(const ustring& app)
+{
+    int newest = -1, newest_build = 0;
+    for (int i = 0; i <= kLastBackupNumber; ++i) {
+        int build = 0;
+        if (IsCompleteCopy(GetAppBackupDir(app, i), &build) && (newest < 0 || build > newest_build)) {
+            newest = i;
+            newest_build = build;
+        }
+    }
+    return newest;
+}
+
+bool IsRealFolder(const ustring& path)
+{
+    _FILE_INFO_tag info;
+    return GetFileInfo(path, info) == 0 && info.exist && info.type == FILE_TYPE_DIR;
+}
+
+// Removes a copy of the bundle, its record first: a removal cut short never
+// leaves a folder that passes for a complete copy. Best effort.
+void RemoveCopy(const ustring& folder)
+{
+    // Only through real folders: a link among them could point anywhere.
+    if (IsRealFolder(folder) && IsRealFolder(folder + "/Contents") &&
+        IsRealFolder(folder + "/Contents/Resources"))
+        FSRemove(folder + "/" + kVersionRecord, false);
+    FSRemove(folder, false);
+}
+
+// Every backup name but number keep, each removal logged.
+void RemoveLeftoverBackups(const ustring& app, int keep)
+{
+    for (int i = 0; i <= kLastBackupNumber; ++i) {
+        const ustring backup = GetAppBackupDir(app, i);
+        _FILE_INFO_tag info;
+        if (i == keep || GetFileInfo(backup, info) != 0 || !info.exist)
+            continue;
+        Logger::LogMsg(Logger::LOG_WARNING, kComponent,
+                       "[WARNING] drift-service(%d): removing leftover backup '%s'\n", __LINE__,
+                       backup.c_str());
+        RemoveCopy(backup);
     }
 }
 
@@ -130,12 +203,33 @@ void Service::LoadSourceVersion()
 int Service::PrepareUserEnv()
 {
     const ustring app = app_path;
-    ustring backup;
-    int n = 0;
-    if (IsFileExist(app, false)) {
-        // Earlier interrupted runs may still hold the lower numbers: take the
+    // An interrupted run may have left a partial copy in place, the old copy
+    // under a backup name, or stale backups. Only a complete copy is worth
+    // keeping; the rest must not block the backup rename.
+    int kept = -1;
+    const bool app_complete = IsCompleteCopy(app, nullptr);
+    if (!app_complete) {
+        kept = NewestCompleteBackup(app);
+        _FILE_INFO_tag info;
+        if (GetFileInfo(app, info) == 0 && info.exist) {
+            Logger::LogMsg(Logger::LOG_WARNING, kComponent,
+                           "[WARNING] drift-service(%d): removing incomplete copy '%s'\n", __LINE__,
+                           app.c_str());
+            RemoveCopy(app);
+        }
+        if (kept >= 0)
+            Logger::LogMsg(Logger::LOG_WARNING, kComponent,
+                           "[WARNING] drift-service(%d): no complete copy in place, '%s' is the old "
+                           "copy\n",
+                           __LINE__, GetAppBackupDir(app, kept).c_str());
+    }
+    RemoveLeftoverBackups(app, kept);
+
+    ustring backup = kept >= 0 ? GetAppBackupDir(app, kept) : ustring();
+    if (app_complete) {
+        // A leftover that could not be removed still holds its name: take the
         // first name the rename accepts.
-        for (;;) {
+        for (int n = 0;; ++n) {
             backup = GetAppBackupDir(app, n);
             if (FSRename(app, backup, false) == 0)
                 break;
@@ -150,7 +244,6 @@ int Service::PrepareUserEnv()
                                __LINE__, app.c_str(), backup.c_str());
                 return -1;
             }
-            ++n;
         }
     }
 
@@ -158,16 +251,15 @@ int Service::PrepareUserEnv()
         Logger::LogMsg(Logger::LOG_INFO, kComponent,
                        "[INFO] drift-service(%d): user installation is ready, removing backup app\n",
                        __LINE__);
-        // Best effort: a backup that stays is removed by a later upgrade that
-        // reaches its number.
-        for (int i = 0; i <= n; ++i)
-            FSRemove(GetAppBackupDir(app, i), false);
+        // Best effort: a backup that stays goes on a later launch.
+        if (!backup.empty())
+            RemoveCopy(backup);
         return 0;
     }
 
     if (backup.empty()) {
-        // First installation: the partial copy stays; the next run decides on
-        // whether its executable made it.
+        // Nothing complete to go back to: the partial copy stays, and the next
+        // run starts afresh.
         Logger::LogMsg(Logger::LOG_ERROR, kComponent,
                        "[ERROR] drift-service(%d): Failed to extract package, and no old "
                        "installation to rollback\n",
@@ -178,10 +270,16 @@ int Service::PrepareUserEnv()
                    "[ERROR] drift-service(%d): Failed to extract package, rollback to old "
                    "installation\n",
                    __LINE__);
-    // Unchecked: should the rename back fail, the next run sees no per-user
-    // copy and installs afresh.
-    FSRemove(app, false);
-    FSRename(backup, app, false);
+    const int newest = NewestCompleteBackup(app);
+    if (newest < 0)
+        return -1;  // never put a partial copy in place
+    const ustring restore = GetAppBackupDir(app, newest);
+    Logger::LogMsg(Logger::LOG_WARNING, kComponent,
+                   "[WARNING] drift-service(%d): restoring '%s'\n", __LINE__, restore.c_str());
+    // Unchecked: should the rename back fail, the next run finds the complete
+    // backup and takes it as the old copy again.
+    RemoveCopy(app);
+    FSRename(restore, app, false);
     return -1;
 }
 
@@ -212,6 +310,14 @@ void Service::RemoveAgedFolders()
                    path.c_str());
     // Best effort: a folder that stays is tried again on the next launch.
     FSRemove(path, false);
+
+    // Backups outlive an upgrade cut short after its extraction; once the copy
+    // in place is whole and needs no upgrade, nothing else is worth keeping.
+    VerInfo bundle;
+    ReadVersionRecord(GetRootDriftwellResourceInstallPath() + "/" + "INFO", bundle);
+    int build = 0;
+    if (IsCompleteCopy(app_path, &build) && build >= BuildNumber(bundle))
+        RemoveLeftoverBackups(app_path, -1);
 }
 
 int Service::FSCopyPath(const ustring& source, const ustring& destination)

@@ -29,8 +29,10 @@ public:
     virtual int ExtractPackage();
     virtual void LoadSourceVersion();
     virtual void LoadTargetVersion();
-    // Moves the old per-user bundle to the first free backup name, extracts,
-    // and restores the backup on failure. 0 when the new copy is in place.
+    // Moves the old per-user bundle to a backup name, extracts, and on failure
+    // puts back the complete backup with the highest build. Leftovers of an
+    // interrupted run are cleared first; a complete backup stands in for a
+    // missing or partial copy. 0 when the new copy is in place.
     virtual int PrepareUserEnv();
 
     // Install locations: absolute UTF-8 paths without a trailing slash,
@@ -42,7 +44,8 @@ public:
     static ustring GetUserDriftwellAppInstallPath();
     static ustring GetUserDriftwellDataInstallPath();
 
-    // Removes ~/.Driftwell/app; runs on every launch.
+    // Removes ~/.Driftwell/app, and every backup name once the per-user copy
+    // is complete and current; runs on every launch.
     void RemoveAgedFolders();
     // Copies a file or a folder tree, depth first; 0 or -1.
     int FSCopyPath(const ustring& source, const ustring& destination);

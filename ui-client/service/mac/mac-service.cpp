@@ -115,9 +115,10 @@ bool MacService::IsNeedUpgrade()
     Logger::LogMsg(Logger::LOG_DEBUG, kComponent,
                    "[DEBUG] mac/mac-service(%d): source version = %d, target version = %d\n",
                    __LINE__, source, target);
-    // A copy without its executable is reinstalled even from an older bundle.
+    // A copy without its executable is reinstalled even from an older bundle;
+    // one without a build in its record is an extraction cut short.
     const bool installed = PerUserBinPathExist();
-    return !installed || target > source;
+    return !installed || source_version.build_version.empty() || target > source;
 }
 
 int MacService::HandlePackageUpgrade()

@@ -37,7 +37,6 @@ using Tree = std::map<std::string, std::string>;
 using Entries = std::vector<std::pair<std::string, std::string>>;
 
 const uid_t kNobody = 65534;
-const std::string kAppdataExists = "[DEBUG] mac/mac-service(N): local appdata exist";
 
 std::string ReadFile(const std::string& path)
 {
@@ -118,9 +117,17 @@ bool WaitFor(Done done)
     return done();
 }
 
-int ChownToNobody(const char* path, const struct stat*, int, struct FTW*)
+uid_t g_owner = kNobody;
+
+int ChownToOwner(const char* path, const struct stat*, int, struct FTW*)
 {
-    return lchown(path, kNobody, kNobody);
+    return lchown(path, g_owner, g_owner);
+}
+
+bool ChownTree(const std::string& path, uid_t owner)
+{
+    g_owner = owner;
+    return nftw(path.c_str(), ChownToOwner, 16, FTW_PHYS) == 0;
 }
 
 // Runs the driver, as another user when uid is not 0.
@@ -219,12 +226,42 @@ protected:
                 {"Contents/Resources/new.txt", "new"}};
     }
 
-    // An installed per-user copy at app_ (or at another folder).
-    void InstallOldCopy(const std::string& at = "")
+    // An installed per-user copy of that build at app_ (or at another
+    // folder); a negative build leaves out the record, as an extraction cut
+    // short does, and 0 makes nothing.
+    void InstallOldCopy(const std::string& at = "", int build = 1)
     {
         const std::string dir = at.empty() ? app_ : at;
+        if (build == 0)
+            return;
         WriteFile(dir + "/Contents/MacOS/drift-ui", ReadFile(DW_FAKE_CLIENT), 0755);
-        WriteFile(dir + "/Contents/Resources/sub/deep.txt", "old " + at);
+        WriteFile(dir + "/Contents/Resources/sub/deep.txt", "old " + at + std::to_string(build));
+        if (build > 0)
+            WriteFile(dir + "/Contents/Resources/INFO",
+                      "[Version]\nbuild_version=" + std::to_string(build) + "\n");
+    }
+
+    // Removes the per-user copy and every backup name.
+    void ClearCopies()
+    {
+        for (int i = -1; i <= 9; ++i)
+            QDir(QString::fromStdString(i < 0 ? app_ : Bak(i))).removeRecursively();
+    }
+
+    std::string Leftover(int n) const
+    {
+        return "[WARNING] drift-service(N): removing leftover backup '" + Bak(n) + "'";
+    }
+
+    // The service's warnings of the last run.
+    Lines Warnings() const
+    {
+        Lines warnings;
+        for (const std::string& line : ServiceLog()) {
+            if (line.rfind("[WARNING]", 0) == 0)
+                warnings.push_back(line);
+        }
+        return warnings;
     }
 
     pid_t PidInFile() const
@@ -293,6 +330,7 @@ TEST_F(ServiceTest, DecidesOnBuildNumbersAndTheExecutable)
         {"keys_outside_the_group", "build_version=99\n[Other]\nbuild_version=98\n",
          "[Version]\nbuild_version=10\n", true, false, 10, 0, {}},
         {"no_bundle_record", nullptr, "[Version]\nbuild_version=10\n", true, false, 10, 0, {}},
+        {"copy_without_record", "[Version]\nbuild_version=0\n", nullptr, true, true, 0, 0, {}},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -381,7 +419,7 @@ TEST_F(ServiceTest, StopAsAnotherUserThanTheClient)
     InstallOldCopy();
     const pid_t binary = StartClient("term");
     ASSERT_GT(binary, 0);
-    ASSERT_EQ(nftw(root_.c_str(), ChownToNobody, 16, FTW_PHYS), 0);
+    ASSERT_TRUE(ChownTree(root_, kNobody));
     Run({"stop"}, kNobody);
     EXPECT_EQ(ServiceLog(), Lines{"[NOTE] mac/mac-service(N): pid " + std::to_string(binary) +
                                   " is not the Driftwell UI, not signalled"});
@@ -422,60 +460,88 @@ TEST_F(ServiceTest, StopEndsTheClientBySigtermOrElseBySigkillAfterTheProbes)
 
 // ---- upgrade ---------------------------------------------------------------
 
-TEST_F(ServiceTest, UpgradeStopsTheClientAndUsesTheFirstFreeBackupName)
+// What interrupted runs leave: a partial copy (no record), the old copy under
+// a backup name, stale backups in any of the ten names. None of it may block
+// the upgrade, and a rollback only ever puts a complete copy in place.
+TEST_F(ServiceTest, UpgradeRecoversWhatInterruptedRunsLeft)
 {
-    InstallOldCopy();
-    InstallOldCopy(Bak(0));
-    InstallOldCopy(Bak(5));
-    const Tree leftover5 = Snapshot(Bak(5));
-    WriteArchive(Package(), NewPackage());
-    const pid_t client = StartClient("term");
-    ASSERT_GT(client, 0);
-
-    EXPECT_EQ(Run({"upgrade"}), "0");
-    EXPECT_EQ(ServiceLog(),
-              (Lines{kAppdataExists, BackupFailedLine(0), extract_line_,
-                     "[INFO] drift-service(N): user installation is ready, removing backup app"}));
-    EXPECT_TRUE(WaitFor([&] { return IsGone(client); }));
-    const Entries package = NewPackage();
-    EXPECT_EQ(Snapshot(app_), Tree(package.begin(), package.end()));
-    EXPECT_FALSE(Exists(Bak(0)));
-    EXPECT_FALSE(Exists(Bak(1)));
-    EXPECT_EQ(Snapshot(Bak(5)), leftover5);
-}
-
-TEST_F(ServiceTest, UpgradeGivesUpWhenAllBackupNamesAreTaken)
-{
-    InstallOldCopy();
-    Lines expected = {kAppdataExists, no_pid_file_line_};
+    const std::string incomplete =
+        "[WARNING] drift-service(N): removing incomplete copy '" + app_ + "'";
+    const auto kept = [&](int n) {
+        return "[WARNING] drift-service(N): no complete copy in place, '" + Bak(n) +
+               "' is the old copy";
+    };
+    const auto restoring = [&](int n) {
+        return "[WARNING] drift-service(N): restoring '" + Bak(n) + "'";
+    };
+    Lines all_leftovers;
+    std::map<int, int> all_taken;
     for (int i = 0; i <= 9; ++i) {
-        InstallOldCopy(Bak(i));
-        expected.push_back(BackupFailedLine(i));
+        all_leftovers.push_back(Leftover(i));
+        all_taken[i] = i % 2 == 0 ? 1 : -1;
     }
-    expected.push_back(BackupFailedLine(9) + " at max retries, exiting");
-    const Tree before = Snapshot(home_);
-    WriteArchive(Package(), NewPackage());
+    const int kApp = 10;
+    const struct {
+        const char* name;
+        int app;                     // build of the copy in place (as InstallOldCopy)
+        std::map<int, int> backups;  // backup number -> build
+        bool damaged;                // the package breaks off after drift-ui
+        const char* result;
+        int restored;  // -1: the new package in place; else what was at this backup (kApp: in place)
+        Lines warnings;
+        bool locked;  // the leftovers belong to root, the service runs as nobody
+    } rows[] = {
+        {"all_names_taken", 1, all_taken, false, "0", -1, all_leftovers, false},
+        {"partial_copy_old_one_backed_up", -1, {{0, 1}}, false, "0", -1, {incomplete, kept(0)}, false},
+        {"partial_copy_then_damaged_package", -1, {{0, 1}}, true, "-1", 0,
+         {incomplete, kept(0), restoring(0)}, false},
+        {"only_a_backup_then_damaged_package", 0, {{0, 1}}, true, "-1", 0,
+         {kept(0), restoring(0)}, false},
+        {"newest_complete_backup_restored", -1, {{0, 1}, {3, 5}, {4, -1}}, true, "-1", 3,
+         {incomplete, kept(3), Leftover(0), Leftover(4), restoring(3)}, false},
+        {"rollback_without_leftovers", 1, {}, true, "-1", kApp, {restoring(0)}, false},
+        {"unremovable_leftovers", 1, all_taken, false, "-1", kApp, all_leftovers, true},
+    };
+    Entries damaged = NewPackage();
+    damaged.insert(damaged.begin() + 3, {"Contents/MacOS/big.bin", std::string(200000, 'x')});
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        if (row.locked && geteuid() != 0)
+            continue;  // root removes anything: needs root to run as another user
+        ClearCopies();
+        InstallOldCopy("", row.app);
+        for (const auto& [number, build] : row.backups)
+            InstallOldCopy(Bak(number), build);
+        const Tree before = row.restored < 0 ? Tree()
+                                             : Snapshot(row.restored == kApp ? app_ : Bak(row.restored));
+        if (row.damaged)
+            WriteArchive(Package(), damaged, 100000);
+        else
+            WriteArchive(Package(), NewPackage());
+        pid_t client = 0;
+        if (row.app > 0 && !row.locked) {
+            ASSERT_GT(client = StartClient("term"), 0);
+        }
+        if (row.locked) {
+            ASSERT_TRUE(ChownTree(root_, kNobody));
+            for (const auto& [number, build] : row.backups)
+                ASSERT_TRUE(ChownTree(Bak(number), 0));
+        }
 
-    EXPECT_EQ(Run({"upgrade"}), "-1");
-    EXPECT_EQ(ServiceLog(), expected);
-    EXPECT_EQ(Snapshot(home_), before);
-}
-
-TEST_F(ServiceTest, FailedExtractionPutsTheOldCopyBack)
-{
-    InstallOldCopy();
-    const Tree before = Snapshot(app_);
-    Entries package = NewPackage();
-    package.insert(package.begin() + 3, {"Contents/MacOS/big.bin", std::string(200000, 'x')});
-    WriteArchive(Package(), package, 100000);
-
-    EXPECT_EQ(Run({"upgrade"}), "-1");
-    EXPECT_EQ(ServiceLog(),
-              (Lines{kAppdataExists, no_pid_file_line_, extract_line_,
-                     "[ERROR] drift-service(N): Failed to extract package, rollback to old "
-                     "installation"}));
-    EXPECT_EQ(Snapshot(app_), before);
-    EXPECT_FALSE(Exists(Bak(0)));
+        EXPECT_EQ(Run({"upgrade"}, row.locked ? kNobody : 0), row.result);
+        EXPECT_EQ(Warnings(), row.warnings);
+        const Entries package = NewPackage();
+        EXPECT_EQ(Snapshot(app_), row.restored < 0 ? Tree(package.begin(), package.end()) : before);
+        for (int i = 0; i <= 9; ++i)
+            EXPECT_EQ(Exists(Bak(i)), row.locked) << Bak(i);
+        if (row.locked) {
+            const Lines log = ServiceLog();
+            EXPECT_EQ(log.back(), BackupFailedLine(9) + " at max retries, exiting");
+        }
+        if (client > 0) {
+            EXPECT_TRUE(WaitFor([&] { return IsGone(client); }));
+        }
+    }
 }
 
 TEST_F(ServiceTest, FailedFirstInstallationKeepsThePartialCopy)
@@ -533,16 +599,43 @@ TEST_F(ServiceTest, LaunchStartsTheClientDetachedAndOnlyOnce)
 
 // ---- aged folder and copying ---------------------------------------------
 
-TEST_F(ServiceTest, RemoveAgedFoldersLogsEveryTime)
+// The aged folder goes on every launch; the backup names only once the copy
+// in place is complete and current (an upgrade cut short after its extraction
+// needs none on the next launch).
+TEST_F(ServiceTest, RemoveAgedFoldersAndLeftoversOfACurrentCopy)
 {
     const std::string aged = home_ + "/.Driftwell/app";
-    for (const bool present : {true, false}) {
-        SCOPED_TRACE(present ? "present" : "absent");
-        if (present)
+    WriteFile(bundle_ + "/Contents/Resources/INFO", "[Version]\nbuild_version=2\n");
+    const struct {
+        const char* name;
+        bool aged;
+        int app;  // build of the copy in place (as InstallOldCopy)
+        bool removed;
+    } rows[] = {
+        {"current_copy", true, 2, true},
+        {"newer_copy", false, 3, true},
+        {"older_copy", true, 1, false},
+        {"partial_copy", false, -1, false},
+        {"no_copy", false, 0, false},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        ClearCopies();
+        if (row.aged)
             WriteFile(aged + "/sub/file", "x");
+        InstallOldCopy("", row.app);
+        InstallOldCopy(Bak(0), 1);
+        InstallOldCopy(Bak(7), -1);
         Run({"remove-aged"});
-        EXPECT_EQ(ServiceLog(), Lines{"[INFO] drift-service(N): removing aged app folder " + aged});
+        Lines expected = {"[INFO] drift-service(N): removing aged app folder " + aged};
+        if (row.removed) {
+            expected.push_back(Leftover(0));
+            expected.push_back(Leftover(7));
+        }
+        EXPECT_EQ(ServiceLog(), expected);
         EXPECT_FALSE(Exists(aged));
+        EXPECT_EQ(Exists(Bak(0)), !row.removed);
+        EXPECT_EQ(Exists(Bak(7)), !row.removed);
     }
 }
 
@@ -556,7 +649,7 @@ TEST_F(ServiceTest, CopyPathCopiesTreesAndAnUnlistableFolderAsAnEmptyOne)
     // Root lists any folder: run the service as nobody instead.
     uid_t uid = 0;
     if (geteuid() == 0) {
-        ASSERT_EQ(nftw(root_.c_str(), ChownToNobody, 16, FTW_PHYS), 0);
+        ASSERT_TRUE(ChownTree(root_, kNobody));
         uid = kNobody;
     }
     const std::string dst = root_ + "/copy";
