@@ -141,6 +141,24 @@ int MoveFolderAcrossDevices(const ustring& src, const ustring& dst, bool exact)
     return remove(src.c_str()) == 0 ? 0 : -3;
 }
 
+// -2 when errno says the volume or the quota is full, else the given code.
+int SpaceOr(int code)
+{
+    return (errno == ENOSPC || errno == EDQUOT) ? -2 : code;
+}
+
+// Gives a folder just made the mode that mkdir(path, mode) has under umask 0:
+// the permission and sticky bits of mode, and a set-group-id bit inherited
+// from the parent.
+int SetMkdirMode(const char* path, mode_t mode)
+{
+    struct stat st;
+    if (stat(path, &st) != 0) {
+        return -1;
+    }
+    return chmod(path, (mode & 01777) | (st.st_mode & S_ISGID));
+}
+
 // Gives a folder that FSMKDirP made to the configured owner.
 void ApplyOwner(const char* path)
 {
@@ -293,11 +311,6 @@ int FSCopy(const ustring& src, const ustring& dst, bool removeSrc)
             break;
         }
         if (got == 0) {
-            if (removeSrc) {
-                close(in);
-                in = -1;
-                result = remove(src.c_str()) == 0 ? 0 : -1;
-            }
             break;
         }
         ssize_t done = 0;
@@ -308,7 +321,7 @@ int FSCopy(const ustring& src, const ustring& dst, bool removeSrc)
             if (put <= 0) {
                 FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: write: %s (%d)\n", __LINE__,
                             strerror(errno), errno);
-                result = (errno == ENOSPC || errno == EDQUOT) ? -2 : -1;
+                result = SpaceOr(-1);
                 break;
             }
             done += put;
@@ -318,14 +331,26 @@ int FSCopy(const ustring& src, const ustring& dst, bool removeSrc)
         }
     }
 
-    if (in >= 0) {
-        close(in);
+    close(in);
+    // A write only reached the cache: the file system may find out at the
+    // flush or the close that the data cannot be stored (a volume on a full
+    // backing store, a network share). The source goes once both succeeded.
+    if (result == 0 && fsync(out) != 0) {
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: fsync(%s): %s (%d)\n", __LINE__,
+                    dst.c_str(), strerror(errno), errno);
+        result = SpaceOr(-1);
     }
-    // Flush so that a copied file is on disk when we return; a device that
-    // cannot sync is not a failure of the copy.
-    fsync(out);
-    close(out);
+    if (close(out) != 0 && result == 0) {
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: close(%s): %s (%d)\n", __LINE__,
+                    dst.c_str(), strerror(errno), errno);
+        result = SpaceOr(-1);
+    }
     free(buffer);
+    if (result == 0 && removeSrc && remove(src.c_str()) != 0) {
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: remove(%s): %s (%d)\n", __LINE__,
+                    src.c_str(), strerror(errno), errno);
+        result = -1;
+    }
     return result;
 }
 
@@ -405,12 +430,10 @@ int FSMKDirP(const ustring& path, const char** end, bool force, unsigned short m
     if (copy == nullptr) {
         return -1;
     }
-    mode_t folderMode = 0777;
-    mode_t oldMask = 0;
-    if (mode != kNoMode) {
-        folderMode = mode;
-        oldMask = umask(0);
-    }
+    // An exact mode is set after the mkdir, never by clearing the umask: that
+    // is process-wide, and other threads create files meanwhile (the log).
+    const bool exactMode = mode != kNoMode;
+    const mode_t folderMode = exactMode ? mode : 0777;
 
     int result = 0;
     char* cut = copy + (copy[0] == '/' ? 1 : 0);
@@ -433,7 +456,7 @@ int FSMKDirP(const ustring& path, const char** end, bool force, unsigned short m
             }
         }
         if (result == 0 && !exists) {
-            if (mkdir(copy, folderMode) < 0) {
+            if (mkdir(copy, folderMode) < 0 || (exactMode && SetMkdirMode(copy, folderMode) != 0)) {
                 result = -1;
             } else {
                 ApplyOwner(copy);
@@ -451,9 +474,6 @@ int FSMKDirP(const ustring& path, const char** end, bool force, unsigned short m
         *end = path.c_str() + (cut - copy);
     }
     int savedErrno = errno;
-    if (mode != kNoMode) {
-        umask(oldMask);
-    }
     free(copy);
     errno = savedErrno;
     return result;

@@ -68,8 +68,9 @@ int FSGetRealPath(ustring& path);
 // -2 status failed.
 int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact);
 // Copies one file's bytes (not its mode, owner or times) through a 32 MiB
-// buffer and fsyncs the destination; with removeSrc the source is removed at
-// the end. 0, -1 failure, -2 out of space or quota. A partial destination stays.
+// buffer, then fsyncs and closes the destination: a failure of either fails
+// the copy. With removeSrc the source is removed only after both succeeded.
+// 0, -1 failure, -2 out of space or quota. A partial destination stays.
 int FSCopy(const ustring& src, const ustring& dst, bool removeSrc);
 // rename, or across file systems: a file is copied then removed, a folder is
 // moved entry by entry, a symbolic link is recreated (same target text, an
@@ -82,7 +83,8 @@ int FSRename(const ustring& src, const ustring& dst, bool exact);
 // or not a folder, -2 creation failed.
 int FSMKDir(const ustring& path, bool parents);
 // Creates each missing folder along path; 0, or -1 with errno. mode 0xFFFF
-// means 0777 under the process umask. *end (if given) points into path's own
+// means 0777 under the process umask; any other mode is set exactly on the
+// folders made (as mkdir under umask 0), and the umask is never changed. *end (if given) points into path's own
 // text where the last handled component ends.
 int FSMKDirP(const ustring& path, const char** end, bool force, unsigned short mode);
 // Removes a path, a folder with everything under it; links are removed, never

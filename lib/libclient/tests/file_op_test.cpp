@@ -1,18 +1,25 @@
 #include "file-op.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 #include <utime.h>
+#include <atomic>
 #include <cerrno>
 #include <climits>
 #include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <set>
 #include <sstream>
 #include <string>
+#include <thread>
 #include <tuple>
 
 namespace fs = std::filesystem;
@@ -149,6 +156,47 @@ TEST_F(FileOpTest, CopyHandlesLargeAndEmptyFilesAndReportsAFullDevice)
     EXPECT_TRUE(Exists(P("big")));  // the source stays on failure
 }
 
+// Every write succeeds into the cache of an ext4 volume whose backing file
+// lies on a tmpfs too small for it: only the flush finds out that the data
+// cannot be stored. Runs in a child with a private mount namespace (needs
+// root and a loop device), so the mounts go with it.
+TEST_F(FileOpTest, MoveKeepsTheSourceWhenTheFlushFails)
+{
+    if (geteuid() != 0 || access("/dev/loop-control", W_OK) != 0 ||
+        system("command -v mkfs.ext4 >/dev/null") != 0) {
+        GTEST_SKIP() << "needs root, a loop device and mkfs.ext4";
+    }
+    const std::string image = P("backing/image"), volume = P("volume");
+    fs::create_directories(P("backing"));
+    fs::create_directories(volume);
+    for (const char* name : {"copied", "moved"}) {
+        WriteFile(P(name), std::string(8 << 20, 'x'));
+    }
+    int pipe_fds[2];
+    ASSERT_EQ(pipe(pipe_fds), 0);
+    const pid_t child = fork();
+    if (child == 0) {
+        std::string report = "no volume";
+        const std::string setup = "truncate -s 32M " + image + " && mkfs.ext4 -q -N 64 -O ^has_journal " +
+                                  image + " && mount -o loop " + image + " " + volume;
+        if (unshare(CLONE_NEWNS) == 0 && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+            mount("tmpfs", P("backing").c_str(), "tmpfs", 0, "size=2m") == 0 && system(setup.c_str()) == 0) {
+            const int copy = FSCopy(P("copied"), volume + "/copied", true);
+            const int move = FSRename(P("moved"), volume + "/moved", false);
+            report = "copy " + std::to_string(copy) + (Exists(P("copied")) ? " kept" : " lost") + ", move " +
+                     std::to_string(move) + (Exists(P("moved")) ? " kept" : " lost");
+            umount(volume.c_str());
+        }
+        _exit(write(pipe_fds[1], report.data(), report.size()) < 0);
+    }
+    close(pipe_fds[1]);
+    char buffer[256];
+    const ssize_t got = read(pipe_fds[0], buffer, sizeof(buffer));
+    close(pipe_fds[0]);
+    ASSERT_EQ(waitpid(child, nullptr, 0), child);
+    EXPECT_EQ(std::string(buffer, got > 0 ? got : 0), "copy -2 kept, move -3 kept");
+}
+
 TEST_F(FileOpTest, MoveAcrossFileSystemsCopiesFilesTreesAndLinksButNotFifos)
 {
     struct stat a, b;
@@ -212,12 +260,47 @@ TEST_F(FileOpTest, MakeFolderWithParentsReportsErrnoOrForcesItsWay)
     ASSERT_EQ(FSMKDirP(path, &end, true, 0xFFFF), 0);
     EXPECT_TRUE(IsDir(P("file/x/y")));
     EXPECT_EQ(*end, '\0');
+}
 
+// The umask belongs to the whole process: while folders of an exact mode are
+// made, files that another thread creates still get the umask applied. The
+// calls go on until 20 files were created wholly inside one.
+TEST_F(FileOpTest, MakeFolderWithModeLeavesTheUmaskAlone)
+{
     const mode_t old = umask(077);
-    EXPECT_EQ(FSMKDirP(P("m/n").c_str(), nullptr, false, 0775), 0);
-    EXPECT_EQ(umask(old), 077u);  // restored after the call
-    EXPECT_EQ(ModeOf(P("m")), 0775u);
-    EXPECT_EQ(ModeOf(P("m/n")), 0775u);
+    std::atomic<int> calls{0}, inside{0};  // calls is odd during a call
+    std::atomic<bool> done{false};
+    std::set<mode_t> created;
+    std::thread creator([&] {
+        const std::string file = P("created");
+        while (!done) {
+            const int before = calls;
+            const int fd = open(file.c_str(), O_CREAT | O_EXCL | O_WRONLY, 0666);
+            struct stat st;
+            if (fd >= 0 && fstat(fd, &st) == 0) {
+                created.insert(st.st_mode & 07777);
+            }
+            close(fd);
+            unlink(file.c_str());
+            inside += before % 2 == 1 && calls == before;
+        }
+    });
+    for (int round = 0; inside < 20 && round < 20000; ++round) {
+        const mode_t mode = round % 2 ? 0775 : 01750;
+        const std::string top = P("m" + std::to_string(round)), leaf = top + "/d/d/d/d/d/d/d/d/d/d/d/d";
+        const ustring path = leaf.c_str();
+        ++calls;
+        const int result = FSMKDirP(path, nullptr, false, mode);
+        ++calls;
+        EXPECT_EQ(result, 0);
+        EXPECT_EQ(ModeOf(top), mode);
+        EXPECT_EQ(ModeOf(leaf), mode);
+    }
+    done = true;
+    creator.join();
+    EXPECT_EQ(umask(old), 077u);
+    EXPECT_GE(inside, 20);
+    EXPECT_EQ(created, std::set<mode_t>{0600});
 }
 
 TEST_F(FileOpTest, RemoveTreeNeverFollowsLinks)
