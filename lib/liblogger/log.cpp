@@ -1,5 +1,10 @@
 #include "log.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <ctime>
 
 #include "config.h"
@@ -65,6 +70,67 @@ void archive_name(char (&buf)[1024], int k)
     snprintf(buf, sizeof buf, "%s_%d", Logger::log_path.c_str_utf8(), k);
 }
 
+// Other processes (a second launcher) append to the same log and rotate it
+// with counts of their own. The log's folder, opened once, is the lock they
+// share: a lock file would be one more name beside the archives, and the log
+// file itself changes under rotation. -1 when there is no file to share.
+int log_dir_fd = -1;
+
+void close_log_dir()
+{
+    if (log_dir_fd >= 0)
+        close(log_dir_fd);
+    log_dir_fd = -1;
+}
+
+void open_log_dir(const ustring& path)
+{
+    close_log_dir();
+    const std::string file = path.c_str_utf8();
+    const size_t slash = file.rfind('/');
+    const std::string dir = slash == std::string::npos ? "." : slash == 0 ? "/" : file.substr(0, slash);
+    log_dir_fd = open(dir.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+}
+
+// Held across a file write, its size accounting and a rotation, so that no
+// other process rotates in between. Without the folder it does nothing: one
+// process alone is served by log_lock.
+class ProcessLock {
+public:
+    explicit ProcessLock(bool wanted) : held_(wanted && log_dir_fd >= 0 && flock(log_dir_fd, LOCK_EX) == 0) {}
+    ~ProcessLock()
+    {
+        if (held_)
+            flock(log_dir_fd, LOCK_UN);
+    }
+    ProcessLock(const ProcessLock&) = delete;
+    ProcessLock& operator=(const ProcessLock&) = delete;
+
+private:
+    bool held_;
+};
+
+// When another process has rotated the log since our last write, our stream
+// is an archive now: go on in the live file and count from 0 there, so that
+// our count describes the file that our own rotation would move.
+void follow_rotation()
+{
+    struct stat ours;
+    struct stat live;
+    if (log_dir_fd < 0 || Logger::log_fp == nullptr || fstat(fileno(Logger::log_fp), &ours) != 0)
+        return;
+    if (stat(Logger::log_path.c_str_utf8(), &live) == 0 && live.st_dev == ours.st_dev &&
+        live.st_ino == ours.st_ino)
+        return;
+    // If the live file cannot be opened, the old stream still keeps the lines.
+    FILE* fp = fopen(Logger::log_path.c_str_utf8(), "a");
+    if (fp == nullptr)
+        return;
+    fclose(Logger::log_fp);
+    store_fp(fp);
+    Logger::log_size = 0;
+}
+
 }  // namespace
 
 std::map<ustring, int> Logger::log_level;
@@ -108,9 +174,11 @@ int Logger::Initialize(Type type, const ustring& path, const ustring& level_path
         log_size = 0;
         log_path = path;
         rotate_cnt = rotate_count;
+        open_log_dir(path);
         return 0;
     }
     }
+    close_log_dir();
     log_path.clear();
     log_size = -1;
     return 0;
@@ -136,6 +204,10 @@ void Logger::LogMsg2(Level level, const ustring& component, const char* format, 
     if (threshold < level)
         return;
 
+    // Only a log file is shared with other processes.
+    ProcessLock shared(log_type == LOG_TYPE_FILE);
+    if (log_type == LOG_TYPE_FILE)
+        follow_rotation();
     int count = 0;
     switch (log_type) {
     case LOG_TYPE_SYSLOG:
@@ -197,6 +269,7 @@ void Logger::Destroy()
         return;
     if (log_fp != nullptr)
         fclose(log_fp);
+    close_log_dir();
     store_fp(stdout);
     log_size = -1;
     log_type = LOG_TYPE_STDERR;

@@ -1,6 +1,9 @@
 // Logger: the process-wide log writer; static state, no objects.
 // A message is written when its level is at most its component's threshold
 // (4 for a component that is not in log_level).
+// Several processes may share one log file: writes and rotations take a lock
+// on the log's folder, and a process whose file another one rotated goes on in
+// the new live file, its size count starting at 0 there.
 #ifndef LOG_H
 #define LOG_H
 
@@ -39,6 +42,7 @@ public:
                         va_list args) __attribute__((format(printf, 3, 0)));
     // Renames archives k -> k+1, drops archive rotate_cnt-1, moves the live file
     // to archive 0 and reopens it. On failure logging stops for the process.
+    // Not locked against other processes by itself: LogMsg2 calls it locked.
     static int Rotate();
     static void Destroy();
 

@@ -1,8 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 #include <atomic>
 #include <cctype>
+#include <chrono>
 #include <filesystem>
+#include <map>
 #include <set>
 #include <string>
 #include <thread>
@@ -189,6 +193,78 @@ TEST_F(LoggerTest, ThreadsLoseOrTearNoLineAcrossRotations)
         }
     EXPECT_EQ(total, static_cast<size_t>(threads * per_thread));
     EXPECT_EQ(seen.size(), static_cast<size_t>(threads * per_thread));
+}
+
+// Several launchers append to one log, each with a logger of its own: one
+// writing through rotations while refused second launchers add a line each,
+// and two rotating at the same moment.
+TEST_F(LoggerTest, ProcessesSharingTheLogLoseNoLineAndKeepTheirOwnCounts)
+{
+    const struct {
+        const char* name;
+        std::vector<int> lines;  // per process
+        int stagger_ms;          // between the starts
+    } rows[] = {
+        {"refused_launchers", {30000, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1}, 10},
+        {"two_rotating", {30000, 30000}, 0},
+    };
+    const std::filesystem::path folder = std::filesystem::path(log).parent_path();
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        for (const auto& entry : std::filesystem::directory_iterator(folder))
+            std::filesystem::remove(entry.path());
+        std::vector<FILE*> writers;
+        for (size_t w = 0; w < row.lines.size(); ++w) {
+            const std::string command = std::string(LOG_WRITER) + " " + log + " 50 w" + std::to_string(w)
+                                        + " " + std::to_string(row.lines[w]);
+            writers.push_back(popen(command.c_str(), "r"));
+            std::this_thread::sleep_for(std::chrono::milliseconds(row.stagger_ms));
+        }
+        std::vector<std::pair<long, unsigned long long>> reports;  // size count, inode of its file
+        for (FILE* p : writers) {
+            long size = -1;
+            unsigned long long inode = 0;
+            EXPECT_EQ(fscanf(p, "%ld %llu", &size, &inode), 2);
+            EXPECT_EQ(pclose(p), 0);
+            reports.emplace_back(size, inode);
+        }
+
+        std::vector<std::string> files{log};
+        for (int k = 0; std::filesystem::exists(archive(k)); ++k)
+            files.push_back(archive(k));
+        const auto entries = std::distance(std::filesystem::directory_iterator(folder), {});
+        EXPECT_EQ(static_cast<size_t>(entries), files.size()) << "names beside the log and its archives";
+        std::map<unsigned long long, std::map<int, long>> bytes;  // inode -> process -> its bytes there
+        std::set<std::pair<int, int>> seen;
+        size_t total = 0;
+        for (const std::string& f : files) {
+            struct stat st;
+            ASSERT_EQ(stat(f.c_str(), &st), 0);
+            for (const std::string& message : messages_of(f)) {
+                ++total;
+                int w = -1, i = -1, text_start = 0;
+                ASSERT_EQ(sscanf(message.c_str(), "[WARNING] w%d(%d): %n", &w, &i, &text_start), 2) << f << ": " << message;
+                ASSERT_EQ(message.substr(text_start), std::string(80, 'p') + "\n") << f << ": " << message;
+                seen.insert({w, i});
+                bytes[st.st_ino][w] += static_cast<long>(STAMP_LEN + message.size());
+            }
+            // An archive was rotated by a process whose own count passed 1 MiB in it.
+            long most = 0;
+            for (const auto& share : bytes[st.st_ino])
+                most = std::max(most, share.second);
+            if (f != log) {
+                EXPECT_GT(most, 1048576) << f;
+            }
+        }
+        size_t expected = 0;
+        for (int n : row.lines)
+            expected += static_cast<size_t>(n);
+        EXPECT_EQ(total, expected);
+        EXPECT_EQ(seen.size(), expected);
+        // Each count is that process's bytes in the file it was writing last.
+        for (size_t w = 0; w < reports.size(); ++w)
+            EXPECT_EQ(reports[w].first, bytes[reports[w].second][static_cast<int>(w)]) << "process w" << w;
+    }
 }
 
 }  // namespace
