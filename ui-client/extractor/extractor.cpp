@@ -58,12 +58,37 @@ const char* error_text(archive* a)
     return text != nullptr ? text : "";
 }
 
-// Every filter and every format; libarchive's result of opening path.
+// The formats of archive_read_support_format_all but mtree. An mtree
+// manifest carries no bytes of its own: its entries name files of the machine
+// it is read on, which the reader opens while it reads the headers. A package
+// must bring its own files, so a manifest is never read as one.
+int (*const FORMATS[])(archive*) = {
+    archive_read_support_format_7zip, archive_read_support_format_ar,    archive_read_support_format_cab,
+    archive_read_support_format_cpio, archive_read_support_format_empty, archive_read_support_format_iso9660,
+    archive_read_support_format_lha,  archive_read_support_format_rar,   archive_read_support_format_rar5,
+    archive_read_support_format_tar,  archive_read_support_format_warc,  archive_read_support_format_xar,
+    archive_read_support_format_zip,
+};
+
+// Every filter and every format above; libarchive's result of opening path.
 int open_reader(archive* reader, const ustring& path)
 {
     archive_read_support_filter_all(reader);
-    archive_read_support_format_all(reader);
+    for (auto support : FORMATS)
+        support(reader);
     return archive_read_open_filename(reader, path.c_str_utf8(), BLOCK_SIZE);
+}
+
+// Whether path is an mtree manifest. Opening only looks at the first bytes;
+// no entry is read, so none of the files it names is touched.
+bool is_mtree(const ustring& path)
+{
+    ReadHandle probe(archive_read_new());
+    if (!probe)
+        return false;
+    archive_read_support_filter_all(probe.get());
+    archive_read_support_format_mtree(probe.get());
+    return archive_read_open_filename(probe.get(), path.c_str_utf8(), BLOCK_SIZE) == ARCHIVE_OK;
 }
 
 // The headers-only pass of Count and List: visit(entry) for every entry, its
@@ -78,9 +103,13 @@ int walk_headers(const ustring& dest_path, const ustring& archive_path, Visit vi
     ReadHandle reader(archive_read_new());
     if (!reader)
         return fail("[ERROR] extractor(%d): Allocate archive failed\n", __LINE__);
-    if (open_reader(reader.get(), archive_path) != ARCHIVE_OK)
+    if (open_reader(reader.get(), archive_path) != ARCHIVE_OK) {
+        if (is_mtree(archive_path))
+            return fail("[ERROR] extractor(%d): '%s' is an mtree manifest, refused: a package "
+                        "carries its own files\n", __LINE__, archive_path.c_str());
         return fail("[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n",
                     __LINE__, error_text(reader.get()));
+    }
     int n = 0;
     archive_entry* entry = nullptr;
     while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
@@ -137,6 +166,11 @@ int Extractor::Extract()
     for (int done = 1;; ++done) {
         archive_entry* entry = nullptr;
         const int r = archive_read_next_header(reader.get(), &entry);
+        // Closing runs the fix-ups the writer deferred to the end (the modes of
+        // folders that had to stay writable while they were filled).
+        if (r == ARCHIVE_EOF && archive_write_close(writer.get()) != ARCHIVE_OK)
+            return fail("[ERROR] extractor(%d): archive_write_close failed: '%s'\n",
+                        __LINE__, error_text(writer.get()));
         if (r == ARCHIVE_EOF)
             return 0;
         // A warning here (a name that cannot be converted, say) is as fatal as an error.

@@ -5,7 +5,8 @@
 // refused and stops the extraction. A symbolic link that stands in the way of
 // a later entry is replaced by a folder, never followed. An existing file at
 // an entry's place is replaced, an existing folder kept. Entries written
-// before a failure stay on disk.
+// before a failure stay on disk. Any format libarchive reads, but an mtree
+// manifest, which names files of this machine instead of carrying them.
 #ifndef EXTRACTOR_H
 #define EXTRACTOR_H
 
@@ -15,7 +16,8 @@ struct archive;
 
 class Extractor {
 public:
-    // 0 when every entry was written, -1 on any failure (warnings included).
+    // 0 when every entry was written and the disk writer closed, -1 on any
+    // failure (warnings included).
     int Extract();
     // Number of entries (0 or more), or -1 on failure.
     int Count();

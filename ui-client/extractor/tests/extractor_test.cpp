@@ -266,6 +266,8 @@ TEST_F(ExtractorTest, FailsBeforeWritingAnything)
 {
     const std::string empty = make({});
     const std::string missing = path("missing.tpk");
+    // The manifest's entry names the decoy "a" of the working directory.
+    const std::string mtree = make({{Entry::File, "a", "working directory"}}, ARCHIVE_FORMAT_MTREE);
     const std::string failed = "[ERROR] extractor(#): Failed to calculate total file numbers, ret: ";
     const std::string invalid = "[ERROR] extractor(#): Invalid Argument";
     const struct {
@@ -280,6 +282,10 @@ TEST_F(ExtractorTest, FailsBeforeWritingAnything)
         {"missing_archive", missing, dest, {kInitializing},
          {started(missing, dest),
           "[ERROR] extractor(#): archive_read_open_filename failed: 'Failed to open '" + missing + "''",
+          failed + "-1"}},
+        {"mtree_manifest", mtree, dest, {kInitializing},
+         {started(mtree, dest),
+          "[ERROR] extractor(#): '" + mtree + "' is an mtree manifest, refused: a package carries its own files",
           failed + "-1"}},
         {"empty_archive_path", "", dest, {}, {invalid}},
         {"empty_dest_path", empty, "", {}, {invalid}},
