@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>No, thanks</source>
-        <translation>Non merci</translation>
+        <translation>Non, merci</translation>
     </message>
     <message>
         <source>Files in folders you deselect are removed from this computer but stay on the server.</source>
@@ -649,7 +649,7 @@
     </message>
     <message>
         <source>Your administrator requires two-step verification. Turn it on for your account first.</source>
-        <translation>Votre administrateur exige la validation en deux étapes. Activez-la d'abord pour votre compte.</translation>
+        <translation>Votre administrateur exige la vérification en deux étapes. Activez-la d'abord pour votre compte.</translation>
     </message>
     <message>
         <source>Choose files to sync</source>
@@ -965,7 +965,7 @@
     </message>
     <message>
         <source>Files cannot be shared through a relay connection.</source>
-        <translation>Les fichiers ne peuvent pas être partagés via une connexion relais.</translation>
+        <translation>Les fichiers ne peuvent pas être partagés via une connexion par relais.</translation>
     </message>
     <message>
         <source>Changes on network drives may be detected with a delay.</source>
