@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>Sharing links are not available through the relay service.</source>
-        <translation>Ссылки для общего доступа недоступны при подключении через службу ретрансляции.</translation>
+        <translation>При подключении через службу ретрансляции ссылки для общего доступа не поддерживаются.</translation>
     </message>
     <message>
         <source>Your quota on the server is used up.</source>
@@ -965,7 +965,7 @@
     </message>
     <message>
         <source>Files cannot be shared through a relay connection.</source>
-        <translation>Через подключение ретрансляции нельзя предоставлять общий доступ к файлам.</translation>
+        <translation>При подключении через службу ретрансляции нельзя предоставлять общий доступ к файлам.</translation>
     </message>
     <message>
         <source>Changes on network drives may be detected with a delay.</source>
@@ -1105,7 +1105,7 @@
     </message>
     <message>
         <source>%1 shared a folder with you</source>
-        <translation>Пользователь %1 предоставил вам доступ к папке</translation>
+        <translation>Пользователь %1 предоставил вам общий доступ к папке</translation>
     </message>
     <message>
         <source>%1 days ago</source>
@@ -1405,7 +1405,7 @@
     </message>
     <message>
         <source>Mount point not available</source>
-        <translation>Точка подключения недоступна</translation>
+        <translation>Точка монтирования недоступна</translation>
     </message>
     <message>
         <source>Read-only</source>
@@ -1869,7 +1869,7 @@
     </message>
     <message>
         <source>%1 is a mount point and cannot be used as a sync folder.</source>
-        <translation>%1 является точкой подключения и не может использоваться как папка синхронизации.</translation>
+        <translation>%1 является точкой монтирования и не может использоваться как папка синхронизации.</translation>
     </message>
     <message>
         <source>Folder path</source>
