@@ -1521,7 +1521,7 @@
     </message>
     <message>
         <source>Just now</source>
-        <translation>Proprio ora</translation>
+        <translation>Poco fa</translation>
     </message>
     <message>
         <source>Locked by another program</source>
