@@ -1121,7 +1121,7 @@
     </message>
     <message>
         <source>Shared folder not found</source>
-        <translation>No se ha encontrado la carpeta compartida</translation>
+        <translation>Carpeta compartida no encontrada</translation>
     </message>
     <message>
         <source>Custom range</source>
