@@ -1205,7 +1205,7 @@
     </message>
     <message>
         <source>Permission denied</source>
-        <translation>權限遭拒</translation>
+        <translation>權限不足</translation>
     </message>
     <message>
         <source>Version not supported</source>
@@ -1293,7 +1293,7 @@
     </message>
     <message>
         <source>Sync these folders again</source>
-        <translation>重新同步這些資料夾</translation>
+        <translation>恢復同步這些資料夾</translation>
     </message>
     <message>
         <source>&amp;Ignore</source>
@@ -1405,7 +1405,7 @@
     </message>
     <message>
         <source>Mount point not available</source>
-        <translation>無法使用掛載點</translation>
+        <translation>掛載點無法使用</translation>
     </message>
     <message>
         <source>Read-only</source>
@@ -1509,7 +1509,7 @@
     </message>
     <message>
         <source>Sync this folder again</source>
-        <translation>重新同步此資料夾</translation>
+        <translation>恢復同步此資料夾</translation>
     </message>
     <message>
         <source>{\DwTitleLarge}[ProductName] has been installed</source>
