@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>The wizard was stopped before it finished.</source>
-        <translation>向导在完成之前被停止。</translation>
+        <translation>向导在完成之前已停止。</translation>
     </message>
     <message>
         <source>&amp;Change</source>
@@ -1293,7 +1293,7 @@
     </message>
     <message>
         <source>Sync these folders again</source>
-        <translation>重新同步这些文件夹</translation>
+        <translation>恢复同步这些文件夹</translation>
     </message>
     <message>
         <source>&amp;Ignore</source>
@@ -1509,7 +1509,7 @@
     </message>
     <message>
         <source>Sync this folder again</source>
-        <translation>重新同步此文件夹</translation>
+        <translation>恢复同步此文件夹</translation>
     </message>
     <message>
         <source>{\DwTitleLarge}[ProductName] has been installed</source>
@@ -1773,7 +1773,7 @@
     </message>
     <message>
         <source>A newer version of [ProductName] is already installed.</source>
-        <translation>已安装更新版本的 [ProductName]。</translation>
+        <translation>已安装较新版本的 [ProductName]。</translation>
     </message>
     <message>
         <source>This computer</source>
@@ -1853,7 +1853,7 @@
     </message>
     <message>
         <source>Folder already in use</source>
-        <translation>文件夹已被使用</translation>
+        <translation>文件夹已在使用中</translation>
     </message>
     <message>
         <source>Updating Driftwell...</source>
