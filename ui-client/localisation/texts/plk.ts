@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>The wizard was stopped before it finished.</source>
-        <translation>Kreator został zatrzymany przed ukończeniem.</translation>
+        <translation>Działanie kreatora zostało przerwane przed zakończeniem.</translation>
     </message>
     <message>
         <source>&amp;Change</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>Sharing links are not available through the relay service.</source>
-        <translation>Linki udostępniania nie są dostępne przez usługę przekaźnikową.</translation>
+        <translation>Linki udostępniania nie są dostępne przy połączeniu przez usługę przekaźnikową.</translation>
     </message>
     <message>
         <source>Your quota on the server is used up.</source>
@@ -669,7 +669,7 @@
     </message>
     <message>
         <source>Sign in to your server to get started.</source>
-        <translation>Zaloguj się na swoim serwerze, aby rozpocząć.</translation>
+        <translation>Aby rozpocząć, zaloguj się do swojego serwera.</translation>
     </message>
     <message>
         <source>Enabled</source>
@@ -753,7 +753,7 @@
     </message>
     <message>
         <source>Unlinking stops syncing with this server. Your files stay on this computer. Continue?</source>
-        <translation>Odłączenie zatrzymuje synchronizację z tym serwerem. Pliki pozostaną na tym komputerze. Czy kontynuować?</translation>
+        <translation>Odłączenie zatrzyma synchronizację z tym serwerem. Pliki pozostaną na tym komputerze. Czy kontynuować?</translation>
     </message>
     <message>
         <source>Show in Finder</source>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>Use an encrypted connection (HTTPS)</source>
-        <translation>Użyj połączenia szyfrowanego (HTTPS)</translation>
+        <translation>Używaj połączenia szyfrowanego (HTTPS)</translation>
     </message>
     <message>
         <source>Start now</source>
@@ -833,7 +833,7 @@
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation>&amp;Drukuj</translation>
+        <translation>D&amp;rukuj</translation>
     </message>
     <message>
         <source>Keyword</source>
@@ -957,7 +957,7 @@
     </message>
     <message>
         <source>Work from the menu bar</source>
-        <translation>Praca z paska menu</translation>
+        <translation>Praca z poziomu paska menu</translation>
     </message>
     <message>
         <source>From there you can pause syncing or open your settings.</source>
@@ -965,7 +965,7 @@
     </message>
     <message>
         <source>Files cannot be shared through a relay connection.</source>
-        <translation>Nie można udostępniać plików przez połączenie przekaźnikowe.</translation>
+        <translation>Przy połączeniu przez usługę przekaźnikową nie można udostępniać plików.</translation>
     </message>
     <message>
         <source>Changes on network drives may be detected with a delay.</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message>
         <source>Cancel installation</source>
-        <translation>Anuluj instalację</translation>
+        <translation>Anulowanie instalacji</translation>
     </message>
     <message>
         <source>Permission denied</source>
@@ -1897,7 +1897,7 @@
     </message>
     <message>
         <source>Use a monochrome menu bar icon</source>
-        <translation>Użyj monochromatycznej ikony na pasku menu</translation>
+        <translation>Używaj monochromatycznej ikony na pasku menu</translation>
     </message>
     <message>
         <source>Quick setup</source>
