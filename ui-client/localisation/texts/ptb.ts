@@ -773,7 +773,7 @@
     </message>
     <message>
         <source>Sync status at a glance</source>
-        <translation>O status da sincronização em um relance</translation>
+        <translation>O status da sincronização de relance</translation>
     </message>
     <message>
         <source>Removes [ProductName] from this computer. Your synced files stay where they are.</source>
@@ -957,7 +957,7 @@
     </message>
     <message>
         <source>Work from the menu bar</source>
-        <translation>Trabalhe pela barra de menus</translation>
+        <translation>Trabalhe a partir da barra de menus</translation>
     </message>
     <message>
         <source>From there you can pause syncing or open your settings.</source>
@@ -1053,7 +1053,7 @@
     </message>
     <message>
         <source>The user name or password is incorrect. Enter them again.</source>
-        <translation>O nome de usuário ou a senha está incorreto. Digite-os novamente.</translation>
+        <translation>O nome de usuário ou a senha estão incorretos. Digite-os novamente.</translation>
     </message>
     <message>
         <source>Remove this shared folder from the list?</source>
@@ -1101,7 +1101,7 @@
     </message>
     <message>
         <source>Browse previous versions</source>
-        <translation>Procurar versões anteriores</translation>
+        <translation>Navegar pelas versões anteriores</translation>
     </message>
     <message>
         <source>%1 shared a folder with you</source>
