@@ -833,7 +833,7 @@
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation>&amp;Печать</translation>
+        <translation>Пе&amp;чать</translation>
     </message>
     <message>
         <source>Keyword</source>
@@ -901,7 +901,7 @@
     </message>
     <message>
         <source>I &amp;do not accept the terms of the license agreement</source>
-        <translation>Я &amp;не принимаю условия лицензионного соглашения</translation>
+        <translation>Я н&amp;е принимаю условия лицензионного соглашения</translation>
     </message>
     <message>
         <source>Driftwell noticed changes in your folders and is syncing them.</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>&amp;Ignore</source>
-        <translation>&amp;Пропустить</translation>
+        <translation>Пропу&amp;стить</translation>
     </message>
     <message>
         <source>Double-click the icon to open Driftwell.</source>
@@ -1317,7 +1317,7 @@
     </message>
     <message>
         <source>&amp;Start [ProductName] now</source>
-        <translation>&amp;Запустить [ProductName] сейчас</translation>
+        <translation>Запустить [ProductName] &amp;сейчас</translation>
     </message>
     <message>
         <source>Security warning</source>
