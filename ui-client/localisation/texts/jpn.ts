@@ -1293,7 +1293,7 @@
     </message>
     <message>
         <source>Sync these folders again</source>
-        <translation>これらのフォルダーを再度同期</translation>
+        <translation>これらのフォルダーの同期を再開</translation>
     </message>
     <message>
         <source>&amp;Ignore</source>
@@ -1345,7 +1345,7 @@
     </message>
     <message>
         <source>The proxy server requires a password</source>
-        <translation>プロキシサーバーでパスワードが必要</translation>
+        <translation>プロキシサーバーにはパスワードが必要</translation>
     </message>
     <message>
         <source>Change the installed features</source>
@@ -1509,7 +1509,7 @@
     </message>
     <message>
         <source>Sync this folder again</source>
-        <translation>このフォルダーを再度同期</translation>
+        <translation>このフォルダーの同期を再開</translation>
     </message>
     <message>
         <source>{\DwTitleLarge}[ProductName] has been installed</source>
@@ -1517,7 +1517,7 @@
     </message>
     <message>
         <source>Got it</source>
-        <translation>了解</translation>
+        <translation>わかりました</translation>
     </message>
     <message>
         <source>Just now</source>
