@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>Authentication failed</source>
-        <translation>Verificatie mislukt</translation>
+        <translation>Authenticatie mislukt</translation>
     </message>
     <message>
         <source>The server answered in a way Driftwell does not understand. Update the server and the client to the latest version.</source>
@@ -913,7 +913,7 @@
     </message>
     <message>
         <source>Choose another pair of folders to keep in sync.</source>
-        <translation>Kies nog een paar mappen om gesynchroniseerd te houden.</translation>
+        <translation>Kies nog een mappenpaar om gesynchroniseerd te houden.</translation>
     </message>
     <message>
         <source>Enter the server's host name, IP address or relay ID.</source>
@@ -977,7 +977,7 @@
     </message>
     <message>
         <source>Select a folder</source>
-        <translation>Selecteer een map</translation>
+        <translation>Map selecteren</translation>
     </message>
     <message>
         <source>Choose another folder</source>
@@ -1181,7 +1181,7 @@
     </message>
     <message>
         <source>Waiting</source>
-        <translation>Wachten</translation>
+        <translation>Wachtend</translation>
     </message>
     <message>
         <source>Network settings</source>
@@ -1325,7 +1325,7 @@
     </message>
     <message>
         <source>Try to sync again</source>
-        <translation>Opnieuw proberen te synchroniseren</translation>
+        <translation>Synchronisatie opnieuw proberen</translation>
     </message>
     <message>
         <source>This version of [ProductName] is already installed.</source>
@@ -1725,7 +1725,7 @@
     </message>
     <message>
         <source>[ProductName] was installed successfully.</source>
-        <translation>[ProductName] is geïnstalleerd.</translation>
+        <translation>[ProductName] is met succes geïnstalleerd.</translation>
     </message>
     <message>
         <source>You do not have permission to access this shared folder.</source>
@@ -1857,7 +1857,7 @@
     </message>
     <message>
         <source>Updating Driftwell...</source>
-        <translation>Driftwell bijwerken...</translation>
+        <translation>Driftwell wordt bijgewerkt...</translation>
     </message>
     <message>
         <source>License agreement</source>
