@@ -901,7 +901,7 @@
     </message>
     <message>
         <source>I &amp;do not accept the terms of the license agreement</source>
-        <translation>Je n'accepte &amp;pas les termes du contrat de licence</translation>
+        <translation>Je &amp;n'accepte pas les termes du contrat de licence</translation>
     </message>
     <message>
         <source>Driftwell noticed changes in your folders and is syncing them.</source>
