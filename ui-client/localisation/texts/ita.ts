@@ -1625,7 +1625,7 @@
     </message>
     <message>
         <source>I &amp;accept the terms of the license agreement</source>
-        <translation>&amp;Accetto i termini del contratto di licenza</translation>
+        <translation>A&amp;ccetto i termini del contratto di licenza</translation>
     </message>
     <message>
         <source>October</source>
@@ -1949,7 +1949,7 @@
     </message>
     <message>
         <source>&amp;Install</source>
-        <translation>&amp;Installa</translation>
+        <translation>I&amp;nstalla</translation>
     </message>
     <message>
         <source>This folder is already synced with another shared folder.</source>
