@@ -1625,7 +1625,7 @@
     </message>
     <message>
         <source>I &amp;accept the terms of the license agreement</source>
-        <translation>&amp;Acepto los términos del contrato de licencia</translation>
+        <translation>A&amp;cepto los términos del contrato de licencia</translation>
     </message>
     <message>
         <source>October</source>
