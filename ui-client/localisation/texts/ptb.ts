@@ -1293,7 +1293,7 @@
     </message>
     <message>
         <source>Sync these folders again</source>
-        <translation>Sincronizar estas pastas novamente</translation>
+        <translation>Retomar a sincronização destas pastas</translation>
     </message>
     <message>
         <source>&amp;Ignore</source>
@@ -1509,7 +1509,7 @@
     </message>
     <message>
         <source>Sync this folder again</source>
-        <translation>Sincronizar esta pasta novamente</translation>
+        <translation>Retomar a sincronização desta pasta</translation>
     </message>
     <message>
         <source>{\DwTitleLarge}[ProductName] has been installed</source>
@@ -1625,7 +1625,7 @@
     </message>
     <message>
         <source>I &amp;accept the terms of the license agreement</source>
-        <translation>&amp;Aceito os termos do contrato de licença</translation>
+        <translation>A&amp;ceito os termos do contrato de licença</translation>
     </message>
     <message>
         <source>October</source>
