@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>Driftwell could not reach the relay service because of a system error. Try again later.</source>
-        <translation>Driftwell se kvůli systémové chybě nemohl spojit s přenosovou službou. Zkuste to později.</translation>
+        <translation>Driftwell se kvůli systémové chybě nemohl spojit s přenosovou službou. Zkuste to znovu později.</translation>
     </message>
     <message>
         <source>A secure connection to the server could not be established.</source>
@@ -221,11 +221,11 @@
     </message>
     <message>
         <source>The wizard was stopped before it finished.</source>
-        <translation>Průvodce byl zastaven před dokončením.</translation>
+        <translation>Průvodce byl přerušen před dokončením.</translation>
     </message>
     <message>
         <source>&amp;Change</source>
-        <translation>&amp;Změnit</translation>
+        <translation>Z&amp;měnit</translation>
     </message>
     <message>
         <source>Authentication failed</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>Sharing links are not available through the relay service.</source>
-        <translation>Odkazy ke sdílení nejsou přes přenosovou službu k dispozici.</translation>
+        <translation>Při připojení přes přenosovou službu nejsou odkazy ke sdílení k dispozici.</translation>
     </message>
     <message>
         <source>Your quota on the server is used up.</source>
@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>Driftwell gave up after %1 attempts. Check your network and try again.</source>
-        <translation>Driftwell ukončil další pokusy (počet pokusů: %1). Zkontrolujte síť a zkuste to znovu.</translation>
+        <translation>Driftwell přestal opakovat pokusy (počet pokusů: %1). Zkontrolujte síť a zkuste to znovu.</translation>
     </message>
     <message>
         <source>Put files into the Driftwell folder and they appear on your server and your other computers.</source>
@@ -937,7 +937,7 @@
     </message>
     <message>
         <source>Something went wrong. Try again later.</source>
-        <translation>Něco se pokazilo. Zkuste to později.</translation>
+        <translation>Něco se pokazilo. Zkuste to znovu později.</translation>
     </message>
     <message>
         <source>Your Driftwell folder</source>
@@ -957,7 +957,7 @@
     </message>
     <message>
         <source>Work from the menu bar</source>
-        <translation>Práce z řádku nabídek</translation>
+        <translation>Ovládání z řádku nabídek</translation>
     </message>
     <message>
         <source>From there you can pause syncing or open your settings.</source>
@@ -965,7 +965,7 @@
     </message>
     <message>
         <source>Files cannot be shared through a relay connection.</source>
-        <translation>Přes přenosové připojení nelze sdílet soubory.</translation>
+        <translation>Při připojení přes přenosovou službu nelze sdílet soubory.</translation>
     </message>
     <message>
         <source>Changes on network drives may be detected with a delay.</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message>
         <source>Cancel installation</source>
-        <translation>Zrušit instalaci</translation>
+        <translation>Zrušení instalace</translation>
     </message>
     <message>
         <source>Permission denied</source>
@@ -1445,7 +1445,7 @@
     </message>
     <message>
         <source>File types not to sync</source>
-        <translation>Nesynchronizované typy souborů</translation>
+        <translation>Typy souborů vyloučené ze synchronizace</translation>
     </message>
     <message>
         <source>Time</source>
@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>File names not to sync:</source>
-        <translation>Nesynchronizované názvy souborů:</translation>
+        <translation>Názvy souborů vyloučené ze synchronizace:</translation>
     </message>
     <message>
         <source>Folder:</source>
@@ -1669,7 +1669,7 @@
     </message>
     <message>
         <source>Applying the settings...</source>
-        <translation>Použití nastavení...</translation>
+        <translation>Používání nastavení...</translation>
     </message>
     <message>
         <source>Enter a user name.</source>
