@@ -465,7 +465,7 @@
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation>&amp;Odebrat</translation>
+        <translation>Ode&amp;brat</translation>
     </message>
     <message>
         <source>Connection unstable</source>
