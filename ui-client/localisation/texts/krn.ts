@@ -1293,7 +1293,7 @@
     </message>
     <message>
         <source>Sync these folders again</source>
-        <translation>선택한 폴더 다시 동기화</translation>
+        <translation>선택한 폴더 동기화 재개</translation>
     </message>
     <message>
         <source>&amp;Ignore</source>
@@ -1509,7 +1509,7 @@
     </message>
     <message>
         <source>Sync this folder again</source>
-        <translation>이 폴더 다시 동기화</translation>
+        <translation>이 폴더 동기화 재개</translation>
     </message>
     <message>
         <source>{\DwTitleLarge}[ProductName] has been installed</source>
@@ -1525,7 +1525,7 @@
     </message>
     <message>
         <source>Locked by another program</source>
-        <translation>다른 프로그램에서 잠금</translation>
+        <translation>다른 프로그램에서 잠김</translation>
     </message>
     <message>
         <source>Choose a folder on the server and a folder on this computer to keep in sync.</source>
