@@ -913,7 +913,7 @@
     </message>
     <message>
         <source>Choose another pair of folders to keep in sync.</source>
-        <translation>Vælg endnu et par mapper, der skal holdes synkroniseret.</translation>
+        <translation>Vælg endnu et mappepar, der skal holdes synkroniseret.</translation>
     </message>
     <message>
         <source>Enter the server's host name, IP address or relay ID.</source>
@@ -1725,7 +1725,7 @@
     </message>
     <message>
         <source>[ProductName] was installed successfully.</source>
-        <translation>[ProductName] blev installeret.</translation>
+        <translation>[ProductName] blev installeret korrekt.</translation>
     </message>
     <message>
         <source>You do not have permission to access this shared folder.</source>
