@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Stop syncing this shared folder? Its files stay on the server.</source>
-        <translation>Sluta synkronisera den här delade mappen? Filerna finns kvar på servern.</translation>
+        <translation>Vill du sluta synkronisera den här delade mappen? Filerna finns kvar på servern.</translation>
     </message>
     <message>
         <source>Account:</source>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>Renamed</source>
-        <translation>Namnbytt</translation>
+        <translation>Omdöpt</translation>
     </message>
     <message>
         <source>File name</source>
@@ -1109,7 +1109,7 @@
     </message>
     <message>
         <source>%1 days ago</source>
-        <translation>för %1 dagar sedan</translation>
+        <translation>För %1 dagar sedan</translation>
     </message>
     <message>
         <source>The verification code is incorrect or has expired.</source>
@@ -1829,7 +1829,7 @@
     </message>
     <message>
         <source>%1 hours ago</source>
-        <translation>för %1 timmar sedan</translation>
+        <translation>För %1 timmar sedan</translation>
     </message>
     <message>
         <source>No folder can be synced.</source>
@@ -1917,7 +1917,7 @@
     </message>
     <message>
         <source>%1 minutes ago</source>
-        <translation>för %1 minuter sedan</translation>
+        <translation>För %1 minuter sedan</translation>
     </message>
     <message>
         <source>Enter the verification code from your authenticator app.</source>
