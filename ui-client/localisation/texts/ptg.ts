@@ -225,7 +225,7 @@
     </message>
     <message>
         <source>&amp;Change</source>
-        <translation>&amp;Alterar</translation>
+        <translation>A&amp;lterar</translation>
     </message>
     <message>
         <source>Authentication failed</source>
@@ -465,7 +465,7 @@
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation>&amp;Remover</translation>
+        <translation>Re&amp;mover</translation>
     </message>
     <message>
         <source>Connection unstable</source>
@@ -729,7 +729,7 @@
     </message>
     <message>
         <source>&amp;Retry</source>
-        <translation>Tentar &amp;novamente</translation>
+        <translation>&amp;Tentar novamente</translation>
     </message>
     <message>
         <source>Select...</source>
@@ -901,7 +901,7 @@
     </message>
     <message>
         <source>I &amp;do not accept the terms of the license agreement</source>
-        <translation>Não &amp;aceito os termos do contrato de licença</translation>
+        <translation>&amp;Não aceito os termos do contrato de licença</translation>
     </message>
     <message>
         <source>Driftwell noticed changes in your folders and is syncing them.</source>
@@ -1625,7 +1625,7 @@
     </message>
     <message>
         <source>I &amp;accept the terms of the license agreement</source>
-        <translation>&amp;Aceito os termos do contrato de licença</translation>
+        <translation>A&amp;ceito os termos do contrato de licença</translation>
     </message>
     <message>
         <source>October</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation>&amp;Sair</translation>
+        <translation>Sai&amp;r</translation>
     </message>
     <message>
         <source>and %1 more</source>
@@ -1849,7 +1849,7 @@
     </message>
     <message>
         <source>The new language is used after Driftwell restarts.</source>
-        <translation>O novo idioma é utilizado depois de o Driftwell reiniciar.</translation>
+        <translation>O novo idioma será utilizado depois de o Driftwell reiniciar.</translation>
     </message>
     <message>
         <source>Folder already in use</source>
