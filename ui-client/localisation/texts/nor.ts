@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>Renamed</source>
-        <translation>Gitt nytt navn</translation>
+        <translation>Omdøpt</translation>
     </message>
     <message>
         <source>File name</source>
@@ -445,7 +445,7 @@
     </message>
     <message>
         <source>Syncing of this folder was turned off by your administrator.</source>
-        <translation>Synkronisering av denne mappen er slått av av administratoren din.</translation>
+        <translation>Administratoren din har slått av synkronisering av denne mappen.</translation>
     </message>
     <message>
         <source>When syncing is finished:</source>
@@ -1665,7 +1665,7 @@
     </message>
     <message>
         <source>Link another server</source>
-        <translation>Knytt til en annen server</translation>
+        <translation>Knytt til enda en server</translation>
     </message>
     <message>
         <source>Applying the settings...</source>
@@ -1725,7 +1725,7 @@
     </message>
     <message>
         <source>[ProductName] was installed successfully.</source>
-        <translation>[ProductName] ble installert.</translation>
+        <translation>[ProductName] ble installert uten problemer.</translation>
     </message>
     <message>
         <source>You do not have permission to access this shared folder.</source>
