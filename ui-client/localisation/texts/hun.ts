@@ -1113,7 +1113,7 @@
     </message>
     <message>
         <source>The verification code is incorrect or has expired.</source>
-        <translation>Az ellenőrző kód helytelen, vagy lejárt.</translation>
+        <translation>Az ellenőrző kód helytelen vagy lejárt.</translation>
     </message>
     <message>
         <source>User name:</source>
@@ -1641,7 +1641,7 @@
     </message>
     <message>
         <source>%1 is already running.</source>
-        <translation>%1 már fut.</translation>
+        <translation>A(z) %1 már fut.</translation>
     </message>
     <message>
         <source>Click Install to begin. To review or change any of your settings, click Back.</source>
@@ -1701,7 +1701,7 @@
     </message>
     <message>
         <source>Driftwell could not start. Restart your computer and try again.</source>
-        <translation>A Driftwell nem tudott elindulni. Indítsa újra a számítógépet, és próbálja újra.</translation>
+        <translation>A Driftwell nem tudott elindulni. Indítsa újra a számítógépet, majd próbálkozzon ismét.</translation>
     </message>
     <message>
         <source>Fixes missing or damaged files, shortcuts and registry entries of [ProductName].</source>
@@ -1805,7 +1805,7 @@
     </message>
     <message>
         <source>Keep both files and add the computer name to the copy from this computer</source>
-        <translation>Mindkét fájl megtartása, és a számítógép nevének hozzáadása az erről a számítógépről származó példányhoz</translation>
+        <translation>Mindkét fájl megtartása és a számítógép nevének hozzáadása az erről a számítógépről származó példányhoz</translation>
     </message>
     <message>
         <source>There is not enough free space on this computer. Free up space to continue syncing.</source>
