@@ -457,7 +457,7 @@
     </message>
     <message>
         <source>Put files into the Driftwell folder and they appear on your server and your other computers.</source>
-        <translation>Dosyaları Driftwell klasörüne koyun; sunucunuzda ve diğer bilgisayarlarınızda görünsünler.</translation>
+        <translation>Driftwell klasörüne koyduğunuz dosyalar sunucunuzda ve diğer bilgisayarlarınızda görünür.</translation>
     </message>
     <message>
         <source>&amp;Repair</source>
@@ -913,7 +913,7 @@
     </message>
     <message>
         <source>Choose another pair of folders to keep in sync.</source>
-        <translation>Eşitlenmiş tutulacak başka bir klasör çifti seçin.</translation>
+        <translation>Eşitlenecek başka bir klasör çifti seçin.</translation>
     </message>
     <message>
         <source>Enter the server's host name, IP address or relay ID.</source>
