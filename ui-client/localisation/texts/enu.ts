@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>&amp;Do not close the programs (a restart may be needed)</source>
-        <translation>&amp;Do not close the programs (a restart may be needed)</translation>
+        <translation>&amp;Don't close the programs (a restart may be needed)</translation>
     </message>
     <message>
         <source>Driftwell is ready.</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>Your computer has not been changed.</source>
-        <translation>Your computer has not been changed.</translation>
+        <translation>Your computer hasn't been changed.</translation>
     </message>
     <message>
         <source>Password:</source>
@@ -189,7 +189,7 @@
     </message>
     <message>
         <source>The sync folder is on a volume that is not mounted. Connect the volume to continue syncing.</source>
-        <translation>The sync folder is on a volume that is not mounted. Connect the volume to continue syncing.</translation>
+        <translation>The sync folder is on a volume that isn't mounted. Connect the volume to continue syncing.</translation>
     </message>
     <message>
         <source>%1 items</source>
@@ -233,7 +233,7 @@
     </message>
     <message>
         <source>The server answered in a way Driftwell does not understand. Update the server and the client to the latest version.</source>
-        <translation>The server answered in a way Driftwell does not understand. Update the server and the client to the latest version.</translation>
+        <translation>The server answered in a way Driftwell doesn't understand. Update the server and the client to the latest version.</translation>
     </message>
     <message>
         <source>First page</source>
@@ -269,7 +269,7 @@
     </message>
     <message>
         <source>The server runs an older version that Driftwell does not support. Update the server.</source>
-        <translation>The server runs an older version that Driftwell does not support. Update the server.</translation>
+        <translation>The server runs an older version that Driftwell doesn't support. Update the server.</translation>
     </message>
     <message>
         <source>Preparing...</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>The server does not accept connections from this IP address. Ask your administrator for access.</source>
-        <translation>The server does not accept connections from this IP address. Ask your administrator for access.</translation>
+        <translation>The server doesn't accept connections from this IP address. Ask your administrator for access.</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>There is not enough free space on this computer for this folder.</source>
-        <translation>There is not enough free space on this computer for this folder.</translation>
+        <translation>There isn't enough free space on this computer for this folder.</translation>
     </message>
     <message>
         <source>The relay service could not find a route to your server. Check that the server is online.</source>
@@ -393,15 +393,15 @@
     </message>
     <message>
         <source>The shared folder on the server is not mounted. Mount it on the server and try again.</source>
-        <translation>The shared folder on the server is not mounted. Mount it on the server and try again.</translation>
+        <translation>The shared folder on the server isn't mounted. Mount it on the server and try again.</translation>
     </message>
     <message>
         <source>The folder is not empty. Its files will be merged with the files on the server.</source>
-        <translation>The folder is not empty. Its files will be merged with the files on the server.</translation>
+        <translation>The folder isn't empty. Its files will be merged with the files on the server.</translation>
     </message>
     <message>
         <source>Sharing links are not available through the relay service.</source>
-        <translation>Sharing links are not available through the relay service.</translation>
+        <translation>Sharing links aren't available through the relay service.</translation>
     </message>
     <message>
         <source>Your quota on the server is used up.</source>
@@ -525,7 +525,7 @@
     </message>
     <message>
         <source>Driftwell is not connected to a server.</source>
-        <translation>Driftwell is not connected to a server.</translation>
+        <translation>Driftwell isn't connected to a server.</translation>
     </message>
     <message>
         <source>Connection type</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>[ProductName] could not be installed. Your computer has not been changed.</source>
-        <translation>[ProductName] could not be installed. Your computer has not been changed.</translation>
+        <translation>[ProductName] couldn't be installed. Your computer hasn't been changed.</translation>
     </message>
     <message>
         <source>Maximum file size</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>Do not sync files larger than:</source>
-        <translation>Do not sync files larger than:</translation>
+        <translation>Don't sync files larger than:</translation>
     </message>
     <message>
         <source>Language:</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Your synced files and folders are not deleted.</source>
-        <translation>Your synced files and folders are not deleted.</translation>
+        <translation>Your synced files and folders aren't deleted.</translation>
     </message>
     <message>
         <source>Update Driftwell to use selective sync.</source>
@@ -901,7 +901,7 @@
     </message>
     <message>
         <source>I &amp;do not accept the terms of the license agreement</source>
-        <translation>I &amp;do not accept the terms of the license agreement</translation>
+        <translation>I &amp;don't accept the terms of the license agreement</translation>
     </message>
     <message>
         <source>Driftwell noticed changes in your folders and is syncing them.</source>
@@ -933,7 +933,7 @@
     </message>
     <message>
         <source>The relay ID is not valid. Check the ID and try again.</source>
-        <translation>The relay ID is not valid. Check the ID and try again.</translation>
+        <translation>The relay ID isn't valid. Check the ID and try again.</translation>
     </message>
     <message>
         <source>Something went wrong. Try again later.</source>
@@ -989,7 +989,7 @@
     </message>
     <message>
         <source>The folders you choose are copied to the server. Deleting a file on this computer does not delete its backup.</source>
-        <translation>The folders you choose are copied to the server. Deleting a file on this computer does not delete its backup.</translation>
+        <translation>The folders you choose are copied to the server. Deleting a file on this computer doesn't delete its backup.</translation>
     </message>
     <message>
         <source>Server overview</source>
@@ -1129,7 +1129,7 @@
     </message>
     <message>
         <source>This folder is read-only. Changes on this computer are not uploaded.</source>
-        <translation>This folder is read-only. Changes on this computer are not uploaded.</translation>
+        <translation>This folder is read-only. Changes on this computer aren't uploaded.</translation>
     </message>
     <message>
         <source>Reset</source>
@@ -1189,7 +1189,7 @@
     </message>
     <message>
         <source>Files with these extensions are not synced.</source>
-        <translation>Files with these extensions are not synced.</translation>
+        <translation>Files with these extensions aren't synced.</translation>
     </message>
     <message>
         <source>Enter the address of your server and your account details.</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>There is not enough quota left on the server for this folder.</source>
-        <translation>There is not enough quota left on the server for this folder.</translation>
+        <translation>There isn't enough quota left on the server for this folder.</translation>
     </message>
     <message>
         <source>Next</source>
@@ -1557,7 +1557,7 @@
     </message>
     <message>
         <source>Show an icon on files that are not synced</source>
-        <translation>Show an icon on files that are not synced</translation>
+        <translation>Show an icon on files that aren't synced</translation>
     </message>
     <message>
         <source>Previous %1 pages</source>
@@ -1577,7 +1577,7 @@
     </message>
     <message>
         <source>There is not enough free space on this computer.</source>
-        <translation>There is not enough free space on this computer.</translation>
+        <translation>There isn't enough free space on this computer.</translation>
     </message>
     <message>
         <source>Nothing was changed.</source>
@@ -1649,7 +1649,7 @@
     </message>
     <message>
         <source>Files larger than %1 MB are not synced.</source>
-        <translation>Files larger than %1 MB are not synced.</translation>
+        <translation>Files larger than %1 MB aren't synced.</translation>
     </message>
     <message>
         <source>{\DwTitleLarge}The installation of [ProductName] was interrupted</source>
@@ -1809,7 +1809,7 @@
     </message>
     <message>
         <source>There is not enough free space on this computer. Free up space to continue syncing.</source>
-        <translation>There is not enough free space on this computer. Free up space to continue syncing.</translation>
+        <translation>There isn't enough free space on this computer. Free up space to continue syncing.</translation>
     </message>
     <message>
         <source>Today</source>
@@ -1885,7 +1885,7 @@
     </message>
     <message>
         <source>Changes to this folder on this computer are not uploaded.</source>
-        <translation>Changes to this folder on this computer are not uploaded.</translation>
+        <translation>Changes to this folder on this computer aren't uploaded.</translation>
     </message>
     <message>
         <source>Sync history</source>
@@ -1905,7 +1905,7 @@
     </message>
     <message>
         <source>Folder is not empty</source>
-        <translation>Folder is not empty</translation>
+        <translation>Folder isn't empty</translation>
     </message>
     <message>
         <source>The server's certificate has changed. Trust the new certificate?</source>
@@ -1969,7 +1969,7 @@
     </message>
     <message>
         <source>The folder on the server is not available.</source>
-        <translation>The folder on the server is not available.</translation>
+        <translation>The folder on the server isn't available.</translation>
     </message>
     <message>
         <source>Setup is complete. Driftwell is now syncing your files.</source>
