@@ -140,7 +140,7 @@ constexpr Row kRows[kRowCount] = {
     {"err_max_tries", "Driftwell gave up after %1 attempts. Check your network and try again."},  // 116
     {"tutorial_first_desc", "Put files into the Driftwell folder and they appear on your server and your other computers."},  // 117
     {"msi_button_repair", "&Repair"},  // 118
-    {"msi_maintenance_dlg_remove_label", "&Remove"},  // 119
+    {"msi_maintenance_dlg_remove_label", "Re&move"},  // 119
     {"notify_abnormal_short", "Connection unstable"},  // 120
     {"msi_ready_dlg_subtitle", "The wizard has everything it needs to begin the installation."},  // 121
     {"wizard_summary_desc", "Check your settings, then click Done to start syncing."},  // 122
@@ -451,7 +451,7 @@ constexpr Row kRows[kRowCount] = {
     {"setting_tab_proxy", "Proxy"},  // 427
     {"context_menu_resume_folder", "Sync this folder again"},  // 428
     {"msi_exit_dlg_title", "{\\DwTitleLarge}[ProductName] has been installed"},  // 429
-    {"msi_button_remove", "&Remove"},  // 430
+    {"msi_button_remove", "Re&move"},  // 430
     {"wizard_summary_table_server", "Server:"},  // 431
     {"got_it", "Got it"},  // 432
     {"time_just_now", "Just now"},  // 433

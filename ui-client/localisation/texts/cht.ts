@@ -464,8 +464,8 @@
         <translation>修復(&amp;R)</translation>
     </message>
     <message>
-        <source>&amp;Remove</source>
-        <translation>移除(&amp;R)</translation>
+        <source>Re&amp;move</source>
+        <translation>移除(&amp;M)</translation>
     </message>
     <message>
         <source>Connection unstable</source>

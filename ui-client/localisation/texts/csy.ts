@@ -464,7 +464,7 @@
         <translation>&amp;Opravit</translation>
     </message>
     <message>
-        <source>&amp;Remove</source>
+        <source>Re&amp;move</source>
         <translation>Ode&amp;brat</translation>
     </message>
     <message>

@@ -464,7 +464,7 @@
         <translation>&amp;Reparieren</translation>
     </message>
     <message>
-        <source>&amp;Remove</source>
+        <source>Re&amp;move</source>
         <translation>&amp;Entfernen</translation>
     </message>
     <message>

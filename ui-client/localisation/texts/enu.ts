@@ -464,8 +464,8 @@
         <translation>&amp;Repair</translation>
     </message>
     <message>
-        <source>&amp;Remove</source>
-        <translation>&amp;Remove</translation>
+        <source>Re&amp;move</source>
+        <translation>Re&amp;move</translation>
     </message>
     <message>
         <source>Connection unstable</source>

@@ -464,7 +464,7 @@
         <translation>&amp;Réparer</translation>
     </message>
     <message>
-        <source>&amp;Remove</source>
+        <source>Re&amp;move</source>
         <translation>&amp;Supprimer</translation>
     </message>
     <message>

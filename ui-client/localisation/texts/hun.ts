@@ -464,7 +464,7 @@
         <translation>&amp;Javítás</translation>
     </message>
     <message>
-        <source>&amp;Remove</source>
+        <source>Re&amp;move</source>
         <translation>&amp;Eltávolítás</translation>
     </message>
     <message>

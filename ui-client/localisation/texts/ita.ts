@@ -464,8 +464,8 @@
         <translation>&amp;Ripara</translation>
     </message>
     <message>
-        <source>&amp;Remove</source>
-        <translation>&amp;Rimuovi</translation>
+        <source>Re&amp;move</source>
+        <translation>Ri&amp;muovi</translation>
     </message>
     <message>
         <source>Connection unstable</source>

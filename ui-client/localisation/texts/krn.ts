@@ -464,8 +464,8 @@
         <translation>복구(&amp;R)</translation>
     </message>
     <message>
-        <source>&amp;Remove</source>
-        <translation>제거(&amp;R)</translation>
+        <source>Re&amp;move</source>
+        <translation>제거(&amp;M)</translation>
     </message>
     <message>
         <source>Connection unstable</source>

@@ -464,7 +464,7 @@
         <translation>&amp;Herstellen</translation>
     </message>
     <message>
-        <source>&amp;Remove</source>
+        <source>Re&amp;move</source>
         <translation>V&amp;erwijderen</translation>
     </message>
     <message>

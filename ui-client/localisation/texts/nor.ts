@@ -464,7 +464,7 @@
         <translation>&amp;Reparer</translation>
     </message>
     <message>
-        <source>&amp;Remove</source>
+        <source>Re&amp;move</source>
         <translation>&amp;Fjern</translation>
     </message>
     <message>

@@ -464,7 +464,7 @@
         <translation>&amp;Napraw</translation>
     </message>
     <message>
-        <source>&amp;Remove</source>
+        <source>Re&amp;move</source>
         <translation>&amp;Usuń</translation>
     </message>
     <message>

@@ -464,8 +464,8 @@
         <translation>&amp;Reparar</translation>
     </message>
     <message>
-        <source>&amp;Remove</source>
-        <translation>&amp;Remover</translation>
+        <source>Re&amp;move</source>
+        <translation>Re&amp;mover</translation>
     </message>
     <message>
         <source>Connection unstable</source>

@@ -464,7 +464,7 @@
         <translation>&amp;Reparar</translation>
     </message>
     <message>
-        <source>&amp;Remove</source>
+        <source>Re&amp;move</source>
         <translation>Re&amp;mover</translation>
     </message>
     <message>

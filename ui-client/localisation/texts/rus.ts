@@ -464,7 +464,7 @@
         <translation>&amp;Восстановить</translation>
     </message>
     <message>
-        <source>&amp;Remove</source>
+        <source>Re&amp;move</source>
         <translation>&amp;Удалить</translation>
     </message>
     <message>

@@ -464,7 +464,7 @@
         <translation>&amp;Reparera</translation>
     </message>
     <message>
-        <source>&amp;Remove</source>
+        <source>Re&amp;move</source>
         <translation>Ta &amp;bort</translation>
     </message>
     <message>

@@ -464,7 +464,7 @@
         <translation>&amp;Onar</translation>
     </message>
     <message>
-        <source>&amp;Remove</source>
+        <source>Re&amp;move</source>
         <translation>&amp;Kaldır</translation>
     </message>
     <message>
