@@ -5,6 +5,7 @@
 
 #include <cstdarg>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <memory>
 #include <system_error>
@@ -121,6 +122,19 @@ int walk_headers(const ustring& dest_path, const ustring& archive_path, Visit vi
     return n;
 }
 
+// Whether a stored name has nothing but "/" and "." components ("", "./",
+// "/./"): below the destination it names the destination folder itself.
+bool names_destination(const char* name)
+{
+    for (const char* p = name; *p != '\0';) {
+        const size_t length = strcspn(p, "/");
+        if (length > 1 || (length == 1 && *p != '.'))
+            return false;
+        p += length + (p[length] == '/');
+    }
+    return true;
+}
+
 // The folder the entry paths are put below. The disk writer removes every
 // symbolic link it meets on an entry's path (UNLINK with SECURE_SYMLINKS),
 // including links among the destination's own ancestors, so the destination
@@ -180,6 +194,11 @@ int Extractor::Extract()
         const char* name = archive_entry_pathname(entry);
         if (name == nullptr)
             return fail("[ERROR] extractor(%d): archive_entry_pathname failed", __LINE__);
+        // As a folder such an entry is the destination already there; as
+        // anything else the writer would unlink the destination to put it there.
+        if (names_destination(name) && archive_entry_filetype(entry) != AE_IFDIR)
+            return fail("[ERROR] extractor(%d): entry '%s' would take the place of the destination folder\n",
+                        __LINE__, name);
         // The stored name is kept as it is: an absolute name lands below the
         // destination, and the writer refuses a ".." component.
         archive_entry_set_pathname(entry, (prefix + name).c_str_utf8());

@@ -2,11 +2,13 @@
 // reporting (total, done) after every entry through Notify_Adapter.
 // Every entry path, and every hard-link target, is put below dest_path (an
 // absolute name too); an entry or hard-link target with a ".." component is
-// refused and stops the extraction. A symbolic link that stands in the way of
-// a later entry is replaced by a folder, never followed. An existing file at
-// an entry's place is replaced, an existing folder kept. Entries written
-// before a failure stay on disk. Any format libarchive reads, but an mtree
-// manifest, which names files of this machine instead of carrying them.
+// refused and stops the extraction, as is an entry other than a folder whose
+// name stands for the destination itself ("", "./"). A symbolic link that
+// stands in the way of a later entry is replaced by a folder, never followed.
+// An existing file at an entry's place is replaced, an existing folder kept.
+// Entries written before a failure stay on disk. Any format libarchive reads,
+// but an mtree manifest, which names files of this machine instead of
+// carrying them.
 #ifndef EXTRACTOR_H
 #define EXTRACTOR_H
 

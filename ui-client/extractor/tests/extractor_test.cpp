@@ -268,6 +268,11 @@ TEST_F(ExtractorTest, FailsBeforeWritingAnything)
     const std::string missing = path("missing.tpk");
     // The manifest's entry names the decoy "a" of the working directory.
     const std::string mtree = make({{Entry::File, "a", "working directory"}}, ARCHIVE_FORMAT_MTREE);
+    // Names that stand for the destination folder itself.
+    const std::string unnamed = make({{Entry::File, "", "x"}});
+    const std::string dots = make({{Entry::Symlink, "/./", "elsewhere"}});
+    const std::string itself = "[ERROR] extractor(#): entry '";
+    const std::string refused = "' would take the place of the destination folder";
     const std::string failed = "[ERROR] extractor(#): Failed to calculate total file numbers, ret: ";
     const std::string invalid = "[ERROR] extractor(#): Invalid Argument";
     const struct {
@@ -287,6 +292,8 @@ TEST_F(ExtractorTest, FailsBeforeWritingAnything)
          {started(mtree, dest),
           "[ERROR] extractor(#): '" + mtree + "' is an mtree manifest, refused: a package carries its own files",
           failed + "-1"}},
+        {"unnamed_entry", unnamed, dest, {kInitializing}, {started(unnamed, dest), itself + refused}},
+        {"dots_and_slashes", dots, dest, {kInitializing}, {started(dots, dest), itself + "/./" + refused}},
         {"empty_archive_path", "", dest, {}, {invalid}},
         {"empty_dest_path", empty, "", {}, {invalid}},
     };
@@ -297,6 +304,7 @@ TEST_F(ExtractorTest, FailsBeforeWritingAnything)
         EXPECT_EQ(out.texts, row.texts);
         EXPECT_TRUE(out.progress.empty());
         EXPECT_EQ(out.log, row.log);
+        EXPECT_TRUE(fs::is_directory(fs::symlink_status(dest)));
         EXPECT_TRUE(tree(dest).empty());
     }
 }
@@ -312,7 +320,8 @@ TEST_F(ExtractorTest, ReplacesFilesKeepsFoldersAndWritesNothingOutside)
     write_file(dest + "/dir/keep", "kept");
     // "lnk" is replaced by a folder rather than followed; the hard link's
     // target "a", left as stored, would be the decoy in the working directory.
-    const Outcome out = run(make({{Entry::Folder, "dir", ""},
+    const Outcome out = run(make({{Entry::Folder, "./", ""},
+                                  {Entry::Folder, "dir", ""},
                                   {Entry::File, "dir/new", "n"},
                                   {Entry::File, "f", "new"},
                                   {Entry::Symlink, "lnk", outside},
