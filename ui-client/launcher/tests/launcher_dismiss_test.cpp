@@ -15,12 +15,6 @@ namespace {
 
 const QByteArray kTitle = "Talvane Driftwell";
 
-// Escape, then a close request, at the dialog; whether both were sent.
-bool TryToDismiss(XDisplay& x, unsigned long window)
-{
-    return x.pressEscape(window) && x.requestClose(window);
-}
-
 TEST(LauncherDismiss, EscapeAndCloseRequestLeaveTheUpgradeRunning)
 {
     TestBundle b;
@@ -56,14 +50,14 @@ TEST(LauncherDismiss, EscapeAndCloseRequestLeaveTheUpgradeRunning)
     }
     ASSERT_NE(0u, dialog) << "no dialog\n" << qPrintable(log());
     ASSERT_TRUE(b.waitForClientEvent("term 1"));
-    EXPECT_TRUE(TryToDismiss(x, dialog));
+    EXPECT_TRUE(x.tryToDismiss(dialog));
     QThread::msleep(1000);
     EXPECT_EQ(dialog, x.viewableWindow(kTitle)) << "dismissed while the old client was being stopped";
     EXPECT_TRUE(LinesWith(log(), "extract package:").isEmpty()) << "the stop ended early";
 
     while (LinesWith(log(), "extract package:").isEmpty() && launcher.state() == QProcess::Running)
         QThread::msleep(20);
-    EXPECT_TRUE(TryToDismiss(x, dialog));
+    EXPECT_TRUE(x.tryToDismiss(dialog));
 
     ASSERT_TRUE(launcher.waitForFinished(kRunTimeoutMs));
     const QString err = QString::fromUtf8(launcher.readAllStandardError());

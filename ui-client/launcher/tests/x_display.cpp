@@ -84,7 +84,7 @@ unsigned long XDisplay::viewableWindow(const QByteArray& title)
     return found;
 }
 
-bool XDisplay::pressEscape(unsigned long window)
+bool XDisplay::tryToDismiss(unsigned long window)
 {
     Display* dpy = Dpy(display_);
     XEvent event;
@@ -100,14 +100,7 @@ bool XDisplay::pressEscape(unsigned long window)
     bool sent = XSendEvent(dpy, window, True, KeyPressMask, &event) != 0;
     key.type = KeyRelease;
     sent = XSendEvent(dpy, window, True, KeyReleaseMask, &event) != 0 && sent;
-    XSync(dpy, False);
-    return sent;
-}
 
-bool XDisplay::requestClose(unsigned long window)
-{
-    Display* dpy = Dpy(display_);
-    XEvent event;
     std::memset(&event, 0, sizeof event);
     event.xclient.type = ClientMessage;
     event.xclient.window = window;
@@ -115,7 +108,7 @@ bool XDisplay::requestClose(unsigned long window)
     event.xclient.format = 32;
     event.xclient.data.l[0] = static_cast<long>(XInternAtom(dpy, "WM_DELETE_WINDOW", False));
     event.xclient.data.l[1] = CurrentTime;
-    const bool sent = XSendEvent(dpy, window, False, NoEventMask, &event) != 0;
+    sent = XSendEvent(dpy, window, False, NoEventMask, &event) != 0 && sent;
     XSync(dpy, False);
     return sent;
 }

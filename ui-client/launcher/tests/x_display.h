@@ -18,10 +18,9 @@ public:
 
     // The viewable top-level window with that title, 0 if there is none.
     unsigned long viewableWindow(const QByteArray& title);
-    // Escape pressed and released while the window has the keyboard.
-    bool pressEscape(unsigned long window);
-    // A window manager's close request (WM_DELETE_WINDOW).
-    bool requestClose(unsigned long window);
+    // What a user does to be rid of a dialog: Escape pressed and released,
+    // then a window manager's close request (WM_DELETE_WINDOW).
+    bool tryToDismiss(unsigned long window);
 
 private:
     XDisplay(const XDisplay&) = delete;
