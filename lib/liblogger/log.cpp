@@ -21,6 +21,8 @@ const int MAX_LOG_SIZE = 1048576;
 // Threshold of a component that is not in log_level; no fall-back to
 // "default_component".
 const int DEFAULT_THRESHOLD = 4;
+// Logger::LOG_WARNING, which syslog's macro of that name (the same number) hides here.
+const Logger::Level WARNING = static_cast<Logger::Level>(4);
 
 // log_fp is tested without the lock (LogMsg2's fast path), so every store and
 // that one load are atomic; all other uses happen under log_lock.
@@ -131,6 +133,46 @@ void follow_rotation()
     Logger::log_size = 0;
 }
 
+struct LevelFileProblem {
+    bool malformed = false;
+    ustring not_a_number;  // the last key whose value is not a number
+};
+
+// Only a whole decimal number is a level: get_int would read a typo as 0 and
+// silence the component, errors included.
+bool is_decimal(const ustring& text)
+{
+    const char* p = text.c_str_utf8();
+    if (*p == '-' || *p == '+')
+        ++p;
+    if (*p == '\0')
+        return false;
+    for (; *p != '\0'; ++p)
+        if (*p < '0' || *p > '9')
+            return false;
+    return true;
+}
+
+// A missing level file is the normal case and says nothing.
+LevelFileProblem apply_level_file(const ustring& level_path)
+{
+    LevelFileProblem problem;
+    if (level_path.empty())
+        return problem;
+    Config levels;
+    if (levels.read(level_path) < 0) {
+        problem.malformed = access(level_path.c_str_utf8(), F_OK) == 0;
+        return problem;
+    }
+    for (const auto& entry : levels.entries) {
+        if (is_decimal(entry.second))
+            Logger::log_level[entry.first] = levels.get_int(entry.first);
+        else
+            problem.not_a_number = entry.first;
+    }
+    return problem;
+}
+
 }  // namespace
 
 std::map<ustring, int> Logger::log_level;
@@ -144,14 +186,23 @@ pthread_mutex_t Logger::log_lock = PTHREAD_MUTEX_INITIALIZER;
 int Logger::Initialize(Type type, const ustring& path, const ustring& level_path, int rotate_count)
 {
     log_level["default_component"] = DEFAULT_THRESHOLD;
-    if (!level_path.empty()) {
-        // A missing or malformed level file leaves the defaults; not an error.
-        Config levels;
-        levels.read(level_path);
-        for (const auto& entry : levels.entries)
-            log_level[entry.first] = levels.get_int(entry.first);
-    }
+    const LevelFileProblem problem = apply_level_file(level_path);
+    const int result = open_destination(type, path, rotate_count);
+    // Said once the destination is open: thresholds the file meant to set
+    // are not in force.
+    if (problem.malformed)
+        LogMsg(WARNING, "default_component",
+               "[WARNING] log(%d): level file '%s' is malformed, default levels apply\n", __LINE__,
+               level_path.c_str_utf8());
+    if (!problem.not_a_number.empty())
+        LogMsg(WARNING, "default_component",
+               "[WARNING] log(%d): level file '%s': level of '%s' is not a number, ignored\n",
+               __LINE__, level_path.c_str_utf8(), problem.not_a_number.c_str_utf8());
+    return result;
+}
 
+int Logger::open_destination(Type type, const ustring& path, int rotate_count)
+{
     log_type = type;
     switch (type) {
     case LOG_TYPE_STDERR:

@@ -33,7 +33,9 @@ public:
     };
 
     // 0 on success, -1 when LOG_TYPE_FILE has an empty or unopenable path (the
-    // previous stream stays in use). The level file is applied in every case.
+    // previous stream stays in use). The level file is applied in every case;
+    // a malformed one, or a level that is not a number, is left out and said
+    // in a warning.
     static int Initialize(Type type, const ustring& log_path, const ustring& level_path,
                           int rotate_count);
     static void LogMsg(Level level, const ustring& component, const char* format, ...)
@@ -53,6 +55,9 @@ public:
     static int log_size;
     static int rotate_cnt;
     static pthread_mutex_t log_lock;
+
+private:
+    static int open_destination(Type type, const ustring& log_path, int rotate_count);
 };
 
 void LogMSG_c(int level, const char* component, const char* format, va_list args)

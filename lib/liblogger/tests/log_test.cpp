@@ -116,6 +116,33 @@ TEST_F(LoggerTest, InitializeWithoutLogPathFailsButAppliesTheLevelFile)
     EXPECT_EQ(Logger::log_fp, stderr);
 }
 
+// A level that is not a number would read as 0 and silence even errors.
+TEST_F(LoggerTest, GarbageInTheLevelFileIsLeftOutAndSaid)
+{
+    const struct {
+        const char* name;
+        const char* level_file;
+        const char* warning;
+    } rows[] = {
+        {"malformed", "\x7f" "ELF\x01 launcher_debug = 7\n[section]\n", "' is malformed, default levels apply\n"},
+        {"not_a_number", "launcher_debug = loud\n", "': level of 'launcher_debug' is not a number, ignored\n"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        reset();
+        write_file(dir.file("launcher.debug"), row.level_file);
+        std::filesystem::remove(log);
+        ASSERT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, log.c_str(), dir.file("launcher.debug").c_str(), 50), 0);
+        Logger::LogMsg(Logger::LOG_ERROR, "launcher_debug", "3\n");
+        Logger::LogMsg(Logger::LOG_NOTE, "launcher_debug", "5\n");
+        const std::vector<std::string> messages = messages_of(log);
+        ASSERT_EQ(messages.size(), 2u);
+        EXPECT_EQ(messages[0].rfind("[WARNING] log(", 0), 0u) << messages[0];
+        EXPECT_NE(messages[0].find(row.warning), std::string::npos) << messages[0];
+        EXPECT_EQ(messages[1], "3\n");
+    }
+}
+
 TEST_F(LoggerTest, RotatesOnlyPastOneMebibyteKeepingRotateCountFiles)
 {
     for (int k = 0; k < 4; ++k)
