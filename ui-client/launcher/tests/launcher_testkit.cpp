@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QSettings>
 #include <QThread>
 
 namespace {
@@ -92,10 +93,10 @@ QList<PackageEntry> ClientPackage(int build, int filler_count, ClientKind kind)
     return entries;
 }
 
-TestBundle::TestBundle()
+TestBundle::TestBundle(const QString& home_name) : home_name_(home_name)
 {
     EnsureCoreApplication();
-    if (!dir_.isValid() || !QDir().mkpath(dir_.path() + "/home"))
+    if (!dir_.isValid() || !QDir().mkpath(home()))
         return;
     // cp -a keeps the plug-in links and the launcher's mode.
     if (QProcess::execute("cp", {"-a", DW_BUNDLE_DIR, bundle()}) != 0)
@@ -126,6 +127,22 @@ bool TestBundle::setBuild(int build, const QList<PackageEntry>& package)
            && WritePackage(this->package(), package);
 }
 
+bool TestBundle::setPackage(const QList<PackageEntry>& package) const
+{
+    return WritePackage(this->package(), package);
+}
+
+bool TestBundle::put(const QString& path, const QByteArray& data)
+{
+    return WriteFile(path, data);
+}
+
+bool TestBundle::stopClient(int build) const
+{
+    const pid_t pid = QSettings(userDir() + "/ui.pid", QSettings::IniFormat).value("pid").toInt();
+    return pid > 0 && kill(pid, SIGTERM) == 0 && waitForClientEvent(QString("term %1").arg(build));
+}
+
 QProcessEnvironment TestBundle::environment() const
 {
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
@@ -133,7 +150,7 @@ QProcessEnvironment TestBundle::environment() const
         if (key == "LANG" || key == "LANGUAGE" || key.startsWith("LC_"))
             env.remove(key);
     }
-    env.insert("HOME", dir_.path() + "/home");
+    env.insert("HOME", home());
     env.insert("LANG", "C");
     env.insert("QT_QPA_PLATFORM", "offscreen");
     return env;

@@ -44,8 +44,9 @@ struct RunResult {
 class TestBundle {
 public:
     // Copies the built bundle (keeping links) and raises launcher_debug,
-    // service_debug and extractor_debug to 7 in its log/launcher.debug.
-    TestBundle();
+    // service_debug and extractor_debug to 7 in its log/launcher.debug. The
+    // home folder is given its name as is (any Unicode form, blanks).
+    explicit TestBundle(const QString& home_name = "home");
     // Kills every process still running from this test's folder (clients).
     ~TestBundle();
 
@@ -53,11 +54,17 @@ public:
     QString bundle() const { return dir_.path() + "/Driftwell.app"; }
     QString executable() const { return bundle() + "/Contents/MacOS/launcher"; }
     QString package() const { return bundle() + "/Contents/Resources/package/driftwell.tpk"; }
-    QString userDir() const { return dir_.path() + "/home/.Driftwell"; }
+    QString home() const { return dir_.path() + "/" + home_name_; }
+    QString userDir() const { return home() + "/.Driftwell"; }
     QString userApp() const { return userDir() + "/Driftwell.app"; }
 
     // The bundle's own INFO and package.
     bool setBuild(int build, const QList<PackageEntry>& package);
+    bool setPackage(const QList<PackageEntry>& package) const;
+    // Any file, with the folders on its way; whether all of data was written.
+    static bool put(const QString& path, const QByteArray& data);
+    // Stops the running client (SIGTERM through its pid file) and waits for it.
+    bool stopClient(int build) const;
 
     // HOME, the offscreen platform and LANG=C; callers adjust.
     QProcessEnvironment environment() const;
@@ -71,6 +78,7 @@ public:
 
 private:
     QTemporaryDir dir_;
+    QString home_name_;
     bool ok_ = false;
 };
 
