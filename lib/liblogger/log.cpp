@@ -135,11 +135,10 @@ void follow_rotation()
 
 struct LevelFileProblem {
     bool malformed = false;
-    ustring not_a_number;  // the last key whose value is not a number
+    ustring not_a_number;  // the last key whose value is not a whole number
+    int read_as = 0;       // what get_int made of it
 };
 
-// Only a whole decimal number is a level: get_int would read a typo as 0 and
-// silence the component, errors included.
 bool is_decimal(const ustring& text)
 {
     const char* p = text.c_str_utf8();
@@ -153,7 +152,9 @@ bool is_decimal(const ustring& text)
     return true;
 }
 
-// A missing level file is the normal case and says nothing.
+// A missing level file is the normal case and says nothing. A value that is
+// not a number still converts as get_int does (a typo reads as 0 and silences
+// the component), so the warning names it.
 LevelFileProblem apply_level_file(const ustring& level_path)
 {
     LevelFileProblem problem;
@@ -165,10 +166,11 @@ LevelFileProblem apply_level_file(const ustring& level_path)
         return problem;
     }
     for (const auto& entry : levels.entries) {
-        if (is_decimal(entry.second))
-            Logger::log_level[entry.first] = levels.get_int(entry.first);
-        else
+        Logger::log_level[entry.first] = levels.get_int(entry.first);
+        if (!is_decimal(entry.second)) {
             problem.not_a_number = entry.first;
+            problem.read_as = Logger::log_level[entry.first];
+        }
     }
     return problem;
 }
@@ -196,8 +198,8 @@ int Logger::Initialize(Type type, const ustring& path, const ustring& level_path
                level_path.c_str_utf8());
     if (!problem.not_a_number.empty())
         LogMsg(WARNING, "default_component",
-               "[WARNING] log(%d): level file '%s': level of '%s' is not a number, ignored\n",
-               __LINE__, level_path.c_str_utf8(), problem.not_a_number.c_str_utf8());
+               "[WARNING] log(%d): level file '%s': level of '%s' is not a number, read as %d\n",
+               __LINE__, level_path.c_str_utf8(), problem.not_a_number.c_str_utf8(), problem.read_as);
     return result;
 }
 

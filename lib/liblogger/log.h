@@ -34,8 +34,8 @@ public:
 
     // 0 on success, -1 when LOG_TYPE_FILE has an empty or unopenable path (the
     // previous stream stays in use). The level file is applied in every case;
-    // a malformed one, or a level that is not a number, is left out and said
-    // in a warning.
+    // a malformed one (left out) and a level that is not a number (read by
+    // get_int, so a typo reads as 0) are said in a warning.
     static int Initialize(Type type, const ustring& log_path, const ustring& level_path,
                           int rotate_count);
     static void LogMsg(Level level, const ustring& component, const char* format, ...)
