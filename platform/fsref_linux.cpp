@@ -12,6 +12,19 @@ namespace {
 const OSStatus kFileNotFound = -43;  // fnfErr
 const OSStatus kIoError = -36;       // ioErr
 const OSStatus kParamError = -50;    // paramErr
+
+// The one place where realpath's errno becomes a status. A missing component
+// and a file where a folder should be both mean there is no such object.
+OSStatus StatusFromErrno(int err)
+{
+    switch (err) {
+    case ENOENT:
+    case ENOTDIR:
+        return kFileNotFound;
+    default:
+        return kIoError;
+    }
+}
 }  // namespace
 
 OSStatus FSPathMakeRef(const unsigned char* path, FSRef* ref, bool* isDirectory)
@@ -20,7 +33,7 @@ OSStatus FSPathMakeRef(const unsigned char* path, FSRef* ref, bool* isDirectory)
         return kParamError;
     }
     if (realpath(reinterpret_cast<const char*>(path), ref->path) == nullptr) {
-        return (errno == ENOENT || errno == ENOTDIR) ? kFileNotFound : kIoError;
+        return StatusFromErrno(errno);
     }
     if (isDirectory != nullptr) {
         struct stat st;

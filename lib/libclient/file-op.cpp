@@ -24,7 +24,6 @@ namespace {
 
 const size_t kPathBufferSize = 4096;
 const size_t kCopyBufferSize = 33554432;  // 32 MiB
-const unsigned short kNoMode = 0xFFFF;
 const uint32_t kNoId = UINT32_MAX;
 
 // Owner given to the folders this layer creates; all ones leaves it alone.
@@ -41,6 +40,28 @@ OSStatus CanonicalPath(const char* path, char (&buffer)[kPathBufferSize])
     }
     memset(buffer, 0, sizeof(buffer));
     return FSRefMakePath(&ref, reinterpret_cast<unsigned char*>(buffer), sizeof(buffer));
+}
+
+// The calls whose errno decides between results.
+enum class Failed { kStatus, kCopy, kRename };
+
+// The one place where errno becomes a result of this layer. A missing path is
+// no failure of a status query, nor another file system of a rename (the move
+// goes on by copying): both give kFSOk for the caller to go on.
+int ResultFromErrno(Failed call, int err)
+{
+    switch (call) {
+    case Failed::kStatus:
+        return err == ENOENT ? kFSOk : kFSFailed;
+    case Failed::kCopy:
+        return (err == ENOSPC || err == EDQUOT) ? kFSCopyNoSpace : kFSCopyFailed;
+    case Failed::kRename:
+        if (err == EXDEV) {
+            return kFSOk;
+        }
+        return err == ENAMETOOLONG ? kFSRenameNameTooLong : kFSRenameFailed;
+    }
+    return kFSFailed;
 }
 
 // -1 for a file kind outside FILE_TYPE.
@@ -102,7 +123,7 @@ WalkResult WalkFolder(const ustring& folder, Visit visit)
         if (IsDotOrDotDot(entry->d_name)) {
             continue;
         }
-        if (visit(entry->d_name) != 0) {
+        if (visit(entry->d_name) != kFSOk) {
             result = WALK_STOPPED;
             break;
         }
@@ -118,33 +139,27 @@ int MoveLinkAcrossDevices(const ustring& src, const ustring& dst)
     char target[PATH_MAX];
     ssize_t len = readlink(src.c_str(), target, sizeof(target));
     if (len < 0 || static_cast<size_t>(len) >= sizeof(target)) {
-        return -3;
+        return kFSRenameFailed;
     }
     target[len] = '\0';
     if (symlink(target, dst.c_str()) != 0) {
-        return -3;
+        return kFSRenameFailed;
     }
-    return remove(src.c_str()) == 0 ? 0 : -3;
+    return remove(src.c_str()) == 0 ? kFSOk : kFSRenameFailed;
 }
 
 int MoveFolderAcrossDevices(const ustring& src, const ustring& dst, bool exact)
 {
-    if (FSMKDir(dst, true) != 0) {
-        return -3;
+    if (FSMKDir(dst, true) != kFSOk) {
+        return kFSRenameFailed;
     }
     WalkResult walk = WalkFolder(src, [&](const char* name) {
         return FSRename(src + "/" + name, dst + "/" + name, exact);
     });
     if (walk != WALK_DONE) {
-        return -3;
+        return kFSRenameFailed;
     }
-    return remove(src.c_str()) == 0 ? 0 : -3;
-}
-
-// -2 when errno says the volume or the quota is full, else the given code.
-int SpaceOr(int code)
-{
-    return (errno == ENOSPC || errno == EDQUOT) ? -2 : code;
+    return remove(src.c_str()) == 0 ? kFSOk : kFSRenameFailed;
 }
 
 // Gives a folder just made the mode that mkdir(path, mode) has under umask 0:
@@ -225,8 +240,9 @@ int GetFileInfo(const ustring& path, _FILE_INFO_tag& info)
 {
     struct stat st;
     if (lstat(path.c_str(), &st) != 0) {
-        if (errno != ENOENT) {
-            return -1;
+        const int result = ResultFromErrno(Failed::kStatus, errno);
+        if (result != kFSOk) {
+            return result;
         }
         info.exist = false;
         info.mtime = time(nullptr);
@@ -236,7 +252,7 @@ int GetFileInfo(const ustring& path, _FILE_INFO_tag& info)
         info.owner = 0;
         info.group = 0;
         info.mode = 0;
-        return 0;
+        return kFSOk;
     }
     info.exist = true;
     info.mtime = st.st_mtime;
@@ -247,12 +263,12 @@ int GetFileInfo(const ustring& path, _FILE_INFO_tag& info)
     info.mode = static_cast<uint32_t>(st.st_mode);
     int type = TypeFromMode(st.st_mode);
     if (type < 0) {
-        return -1;
+        return kFSFailed;
     }
     info.type = type;
     // Best effort: without a canonical spelling the path stays as given.
     FSGetRealPath(info.path);
-    return 0;
+    return kFSOk;
 }
 
 int FSGetRealPath(ustring& path)
@@ -260,23 +276,23 @@ int FSGetRealPath(ustring& path)
     FILE_OP_LOG(LOG_DEBUG, "[DEBUG] file-op(%d):  org path [%s]\n", __LINE__, path.c_str());
     char buffer[kPathBufferSize];
     if (CanonicalPath(path.c_str(), buffer) != 0) {
-        return -1;
+        return kFSFailed;
     }
     path = buffer;
     FILE_OP_LOG(LOG_DEBUG, "[DEBUG] file-op(%d):  get full path [%s]\n", __LINE__, path.c_str());
-    return 0;
+    return kFSOk;
 }
 
 int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact)
 {
     if (path.empty()) {
-        return -1;
+        return kFSStatEmptyPath;
     }
     if (!IsFileExist(path, exact)) {
         info.exist = false;
-        return 0;
+        return kFSOk;
     }
-    return GetFileInfo(path, info) < 0 ? -2 : 0;
+    return GetFileInfo(path, info) < 0 ? kFSStatFailed : kFSOk;
 }
 
 int FSCopy(const ustring& src, const ustring& dst, bool removeSrc)
@@ -285,29 +301,29 @@ int FSCopy(const ustring& src, const ustring& dst, bool removeSrc)
     if (in < 0) {
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", __LINE__,
                     src.c_str(), strerror(errno), errno);
-        return -1;
+        return kFSCopyFailed;
     }
     int out = open(dst.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
     if (out < 0) {
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", __LINE__,
                     dst.c_str(), strerror(errno), errno);
         close(in);
-        return -1;
+        return kFSCopyFailed;
     }
 
-    int result = 0;
+    int result = kFSOk;
     char* buffer = static_cast<char*>(malloc(kCopyBufferSize));
     if (buffer == nullptr) {
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSCopy: malloc(%d): %s (%d)\n", __LINE__,
                     (int)kCopyBufferSize, strerror(errno), errno);
-        result = -1;
+        result = kFSCopyFailed;
     }
     while (buffer != nullptr) {
         ssize_t got = read(in, buffer, kCopyBufferSize);
         if (got < 0) {
             FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: read: %s (%d)\n", __LINE__,
                         strerror(errno), errno);
-            result = -1;
+            result = kFSCopyFailed;
             break;
         }
         if (got == 0) {
@@ -321,12 +337,12 @@ int FSCopy(const ustring& src, const ustring& dst, bool removeSrc)
             if (put <= 0) {
                 FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: write: %s (%d)\n", __LINE__,
                             strerror(errno), errno);
-                result = SpaceOr(-1);
+                result = ResultFromErrno(Failed::kCopy, errno);
                 break;
             }
             done += put;
         }
-        if (result != 0) {
+        if (result != kFSOk) {
             break;
         }
     }
@@ -335,21 +351,21 @@ int FSCopy(const ustring& src, const ustring& dst, bool removeSrc)
     // A write only reached the cache: the file system may find out at the
     // flush or the close that the data cannot be stored (a volume on a full
     // backing store, a network share). The source goes once both succeeded.
-    if (result == 0 && fsync(out) != 0) {
+    if (result == kFSOk && fsync(out) != 0) {
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: fsync(%s): %s (%d)\n", __LINE__,
                     dst.c_str(), strerror(errno), errno);
-        result = SpaceOr(-1);
+        result = ResultFromErrno(Failed::kCopy, errno);
     }
-    if (close(out) != 0 && result == 0) {
+    if (close(out) != 0 && result == kFSOk) {
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: close(%s): %s (%d)\n", __LINE__,
                     dst.c_str(), strerror(errno), errno);
-        result = SpaceOr(-1);
+        result = ResultFromErrno(Failed::kCopy, errno);
     }
     free(buffer);
-    if (result == 0 && removeSrc && remove(src.c_str()) != 0) {
+    if (result == kFSOk && removeSrc && remove(src.c_str()) != 0) {
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: remove(%s): %s (%d)\n", __LINE__,
                     src.c_str(), strerror(errno), errno);
-        result = -1;
+        result = kFSCopyFailed;
     }
     return result;
 }
@@ -357,85 +373,84 @@ int FSCopy(const ustring& src, const ustring& dst, bool removeSrc)
 int FSRename(const ustring& src, const ustring& dst, bool exact)
 {
     if (src.empty() || dst.empty()) {
-        return -1;
+        return kFSRenameEmptyArgument;
     }
     FILE_INFO info;
     if (FSStat(src, info, exact) < 0) {
-        return -2;
+        return kFSRenameSourceMissing;
     }
     // The existence check follows links (and the exact one spells a link as
     // its target): a link that it misses still has a name of its own to move.
-    if (!info.exist && (GetFileInfo(src, info) != 0 || !info.exist || info.type != FILE_TYPE_LINK)) {
-        return -2;
+    if (!info.exist &&
+        (GetFileInfo(src, info) != kFSOk || !info.exist || info.type != FILE_TYPE_LINK)) {
+        return kFSRenameSourceMissing;
     }
     if (rename(src.c_str(), dst.c_str()) == 0) {
-        return 0;
+        return kFSOk;
     }
-    if (errno == ENAMETOOLONG) {
-        return -100;
-    }
-    if (errno != EXDEV) {
-        return -3;
+    const int result = ResultFromErrno(Failed::kRename, errno);
+    if (result != kFSOk) {
+        return result;
     }
     // Different file systems: rebuild at dst, then remove the source.
     switch (info.type) {
     case FILE_TYPE_REGULAR:
-        return FSCopy(src, dst, true) < 0 ? -3 : 0;
+        return FSCopy(src, dst, true) < 0 ? kFSRenameFailed : kFSOk;
     case FILE_TYPE_DIR:
         return MoveFolderAcrossDevices(src, dst, exact);
     case FILE_TYPE_LINK:
         return MoveLinkAcrossDevices(src, dst);
     default:
         // Devices, FIFOs and sockets cannot be carried over by copying bytes.
-        return -3;
+        return kFSRenameFailed;
     }
 }
 
 int FSMKDir(const ustring& path, bool parents)
 {
     if (path.empty()) {
-        return -1;
+        return kFSMKDirBadPath;
     }
     FILE_INFO info;
-    if (GetFileInfo(path, info) != 0) {
+    if (GetFileInfo(path, info) != kFSOk) {
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSMKDir: Failed to to file info '%s'\n",
                     __LINE__, path.c_str());
-        return -1;
+        return kFSMKDirBadPath;
     }
     if (info.exist) {
         if (info.type == FILE_TYPE_DIR) {
-            return 0;
+            return kFSOk;
         }
         FILE_OP_LOG(LOG_ERROR,
                     "[ERROR] file-op(%d): FSMKDir: Create a folder but local file system is not "
                     "directory '%s' (%d)\n",
                     __LINE__, path.c_str(), (int)info.type);
-        return -1;
+        return kFSMKDirBadPath;
     }
-    int made = parents ? FSMKDirP(path, nullptr, false, kNoMode) : mkdir(path.c_str(), 0777);
+    int made = parents ? FSMKDirP(path, nullptr, false, kFSNoMode) : mkdir(path.c_str(), 0777);
     if (made != 0) {
-        return -2;
+        return kFSMKDirCreateFailed;
     }
-    // Logged and ignored by design: the folder exists, the owner is a bonus.
+    // Ignored by design, and not logged: the folder exists, the owner is a bonus.
     FSChown(path);
-    return 0;
+    return kFSOk;
 }
 
 int FSMKDirP(const ustring& path, const char** end, bool force, unsigned short mode)
 {
     if (path.empty()) {
-        return -1;
+        return kFSFailed;
     }
     char* copy = strdup(path.c_str());
     if (copy == nullptr) {
-        return -1;
+        return kFSFailed;
     }
     // An exact mode is set after the mkdir, never by clearing the umask: that
     // is process-wide, and other threads create files meanwhile (the log).
-    const bool exactMode = mode != kNoMode;
+    const bool exactMode = mode != kFSNoMode;
     const mode_t folderMode = exactMode ? mode : 0777;
 
-    int result = 0;
+    int result = kFSOk;
     char* cut = copy + (copy[0] == '/' ? 1 : 0);
     for (;;) {
         cut += strcspn(cut, "/");
@@ -448,23 +463,23 @@ int FSMKDirP(const ustring& path, const char** end, bool force, unsigned short m
         if (exists && !S_ISDIR(st.st_mode)) {
             if (!force) {
                 errno = last ? EEXIST : ENOTDIR;
-                result = -1;
+                result = kFSFailed;
             } else if (remove(copy) != 0) {
-                result = -1;
+                result = kFSFailed;
             } else {
                 exists = false;
             }
         }
-        if (result == 0 && !exists) {
+        if (result == kFSOk && !exists) {
             if (mkdir(copy, folderMode) < 0 || (exactMode && SetMkdirMode(copy, folderMode) != 0)) {
-                result = -1;
+                result = kFSFailed;
             } else {
                 ApplyOwner(copy);
             }
         }
 
         *cut = separator;
-        if (result != 0 || last) {
+        if (result != kFSOk || last) {
             break;
         }
         ++cut;
@@ -482,25 +497,25 @@ int FSMKDirP(const ustring& path, const char** end, bool force, unsigned short m
 int FSRemove(const ustring& path, bool /*flag*/)
 {
     if (path.empty()) {
-        return -1;
+        return kFSRemoveBadPath;
     }
     FILE_INFO info;
-    if (GetFileInfo(path, info) != 0) {
-        return -1;
+    if (GetFileInfo(path, info) != kFSOk) {
+        return kFSRemoveBadPath;
     }
     if (!info.exist) {
-        return 0;
+        return kFSOk;
     }
     // Links are removed themselves, never followed.
     if (info.type != FILE_TYPE_DIR) {
-        return remove(path.c_str()) == 0 ? 0 : -3;
+        return remove(path.c_str()) == 0 ? kFSOk : kFSRemoveFailed;
     }
     WalkResult walk =
         WalkFolder(path, [&](const char* name) { return FSRemove(path + "/" + name, false); });
     if (walk != WALK_DONE) {
-        return -3;
+        return kFSRemoveFailed;
     }
-    return remove(path.c_str()) == 0 ? 0 : -3;
+    return remove(path.c_str()) == 0 ? kFSOk : kFSRemoveFailed;
 }
 
 int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& h)
@@ -509,12 +524,12 @@ int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& h)
     if (dir == nullptr) {
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSOpenDir: Failed to open directory '%s'. %s\n",
                     __LINE__, path.c_str(), strerror(errno));
-        return -1;
+        return kFSFailed;
     }
     h.dir = dir;
     h.path = path;
     h.flags = flags;
-    return 0;
+    return kFSOk;
 }
 
 int FSReadDir(DIR_HANDLE& h, DIR_ENTRY& e)
@@ -522,11 +537,11 @@ int FSReadDir(DIR_HANDLE& h, DIR_ENTRY& e)
     struct dirent* entry = NextEntry(h.dir);
     if (entry == nullptr) {
         if (errno == 0) {
-            return 0;
+            return kFSReadDirEnd;
         }
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSOpenDir: Failed to read directory '%s'. %s\n",
                     __LINE__, h.path.c_str(), strerror(errno));
-        return -1;
+        return kFSFailed;
     }
 
     e.mtime = 0;
@@ -540,7 +555,7 @@ int FSReadDir(DIR_HANDLE& h, DIR_ENTRY& e)
             if (fstat(dirfd(h.dir), &st) != 0) {
                 FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSOpenDir: Failed to get info for '%s'\n",
                             __LINE__, full.c_str());
-                return -1;
+                return kFSFailed;
             }
             e.mtime = st.st_mtime;
             e.size = st.st_size;
@@ -553,7 +568,7 @@ int FSReadDir(DIR_HANDLE& h, DIR_ENTRY& e)
             if (FSStat(full, info, true) < 0) {
                 FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSOpenDir: Failed to get info for '%s'\n",
                             __LINE__, full.c_str());
-                return -1;
+                return kFSFailed;
             }
             if (info.exist) {
                 e.mtime = info.mtime;
@@ -563,7 +578,7 @@ int FSReadDir(DIR_HANDLE& h, DIR_ENTRY& e)
     }
     e.name = entry->d_name;
     e.type = TypeFromDirent(entry->d_type);
-    return 1;
+    return kFSReadDirEntry;
 }
 
 void FSCloseDir(DIR_HANDLE& h)
@@ -586,7 +601,7 @@ int FSChown(const ustring& path)
 
 int FSInit(const ustring& /*path*/)
 {
-    return 0;
+    return kFSOk;
 }
 
 int FSMktemp(const ustring& folder, ustring& out)
@@ -599,13 +614,13 @@ int FSMktemp(const ustring& folder, ustring& out)
     if (fd < 0) {
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): mkstemp(%s): %s\n", __LINE__, pattern,
                     strerror(errno));
-        return -1;
+        return kFSFailed;
     }
     fsync(fd);
     close(fd);
     out = name;
     chmod(name, 0644);
-    return 0;
+    return kFSOk;
 }
 
 int FSUTime(const ustring& path, long atime, long mtime)
@@ -613,7 +628,7 @@ int FSUTime(const ustring& path, long atime, long mtime)
     struct utimbuf times;
     times.actime = static_cast<time_t>(atime);
     times.modtime = static_cast<time_t>(mtime);
-    return utime(path.c_str(), &times) == 0 ? 0 : -1;
+    return utime(path.c_str(), &times) == 0 ? kFSOk : kFSFailed;
 }
 
 bool FSTimeEqual(long a, long b)
@@ -659,5 +674,5 @@ bool IsMSDOS(const ustring& path)
 int FSCreateTempPath(const ustring& folder, ustring& out)
 {
     out = TmpNameGen::getInstance()->getTmpPath(folder);
-    return out.empty() ? -1 : 0;
+    return out.empty() ? kFSFailed : kFSOk;
 }

@@ -53,65 +53,118 @@ typedef struct _DIR_ENTRY_tag {
     int64_t size = 0;
 } DIR_ENTRY;
 
+// Results. Every int operation below returns kFSOk (0) on success; a failure
+// number means something of its own per operation, so each has its names.
+// kFSFailed is the one failure of the operations that know only one.
+constexpr int kFSOk = 0;
+constexpr int kFSFailed = -1;
+
 // True when the NFC form of path exists. With exact, also only when its
 // canonical spelling equals it byte for byte (so a trailing "/", "/." or a
 // relative path is false). Where the NFC spelling does not exist on a file
 // system that keeps names byte for byte, the path as given is tried too.
 bool IsFileExist(const ustring& path, bool exact);
-// lstat: a link is described, not followed. A missing path is 0 with exist
-// false, type regular, size 0 and mtime now; -1 on other errors or a file kind
-// not in FILE_TYPE.
+// lstat: a link is described, not followed. A missing path is kFSOk with exist
+// false, type regular, size 0 and mtime now; kFSFailed on other errors or a
+// file kind not in FILE_TYPE.
 int GetFileInfo(const ustring& path, _FILE_INFO_tag& info);
-// 0 and path replaced by its canonical spelling; -1 and path unchanged.
+// kFSOk and path replaced by its canonical spelling; kFSFailed and path
+// unchanged.
 int FSGetRealPath(ustring& path);
-// 0 (see info.exist; a missing path changes only exist), -1 empty path,
-// -2 status failed.
+
+// FSStat: kFSOk (see info.exist; a missing path changes only exist), or:
+constexpr int kFSStatEmptyPath = -1;
+constexpr int kFSStatFailed = -2;  // the path exists, its status could not be read
 int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact);
+
 // Copies one file's bytes (not its mode, owner or times) through a 32 MiB
 // buffer, then fsyncs and closes the destination: a failure of either fails
 // the copy. With removeSrc the source is removed only after both succeeded.
-// 0, -1 failure, -2 out of space or quota. A partial destination stays.
+// A partial destination stays. kFSOk, or:
+constexpr int kFSCopyFailed = -1;   // open, read, write, flush, close or removal failed
+constexpr int kFSCopyNoSpace = -2;  // the volume or the quota is full
 int FSCopy(const ustring& src, const ustring& dst, bool removeSrc);
+
 // rename, or across file systems: a file is copied then removed, a folder is
 // moved entry by entry, a symbolic link is recreated (same target text, an
-// existing dst is not replaced) then removed; devices, FIFOs and sockets give
-// -3 and stay. 0, -1 empty argument, -2 source missing or its status failed,
-// -3 move failed (a folder may be partly moved), -100 name too long. A link
-// is moved whether or not its target exists.
+// existing dst is not replaced) then removed; devices, FIFOs and sockets fail
+// and stay. A move across file systems keeps no mode bits, owner or times:
+// new files get 0666 and new folders 0777, less the process umask (an existing
+// destination file keeps its mode, an existing folder takes the entries in).
+// A link is moved whether or not its target exists. kFSOk, or:
+constexpr int kFSRenameEmptyArgument = -1;
+constexpr int kFSRenameSourceMissing = -2;  // or its status failed; nothing tried
+constexpr int kFSRenameFailed = -3;         // a folder may be partly moved
+constexpr int kFSRenameNameTooLong = -100;
 int FSRename(const ustring& src, const ustring& dst, bool exact);
-// 0 created or already a folder (a link to a folder is not), -1 status failed
-// or not a folder, -2 creation failed.
+
+// kFSOk when created or already a folder (a link to a folder is not), or:
+constexpr int kFSMKDirBadPath = -1;       // empty, status failed, or not a folder
+constexpr int kFSMKDirCreateFailed = -2;  // mkdir failed (also a parent missing without parents)
 int FSMKDir(const ustring& path, bool parents);
-// Creates each missing folder along path; 0, or -1 with errno. mode 0xFFFF
-// means 0777 under the process umask; any other mode is set exactly on the
-// folders made (as mkdir under umask 0), and the umask is never changed. *end (if given) points into path's own
-// text where the last handled component ends.
+
+// FSMKDirP's mode for "none given": 0777 under the process umask.
+constexpr unsigned short kFSNoMode = 0xFFFF;
+// Creates each missing folder along path; kFSOk, or kFSFailed with errno. Links
+// are followed: a link to a folder counts as that folder and is walked
+// through. Something other than a folder along the way fails with ENOTDIR (or
+// EEXIST for the last component); with force it is removed (a link itself,
+// not its target) and a folder made in its place. A folder that appears
+// between the check and mkdir (another process making the same path) fails
+// the call with EEXIST: calling again goes on from there. A dangling link
+// fails with EEXIST, force or not. Any mode other than kFSNoMode is set
+// exactly on the folders made (as mkdir under umask 0), and the umask is never
+// changed. *end (if given) points into path's own text where the last handled
+// component ends.
 int FSMKDirP(const ustring& path, const char** end, bool force, unsigned short mode);
+
 // Removes a path, a folder with everything under it; links are removed, never
-// followed. 0 removed or absent, -1 empty path or status failed, -3 removal
-// failed (also for a folder that cannot be opened). flag is ignored.
+// followed. A failure may leave a tree partly removed. flag is ignored. kFSOk
+// when removed or absent, or:
+constexpr int kFSRemoveBadPath = -1;  // empty path or status failed
+constexpr int kFSRemoveFailed = -3;   // also for a folder that cannot be opened
 int FSRemove(const ustring& path, bool flag);
-// 0 and h filled, or -1 with h untouched.
+
+// kFSOk and h filled, or kFSFailed (logged) with h untouched.
 int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& h);
-// 1 entry read ("." and ".." included), 0 end of listing, -1 error. With
-// FS_DIR_WITH_STAT, "." and ".." carry the listed folder's own mtime and size;
-// an entry that the exact check does not find under h.path + "/" + name (a
-// link, or a listing opened by a non-canonical path) carries 0 and 0.
+// FSReadDir: kFSReadDirEntry ("." and ".." included), kFSReadDirEnd, or
+// kFSFailed (logged). With FS_DIR_WITH_STAT, "." and ".." carry the listed
+// folder's own mtime and size; an entry that the exact check does not find
+// under h.path + "/" + name (a link, or a listing opened by a non-canonical
+// path) carries 0 and 0.
+constexpr int kFSReadDirEntry = 1;
+constexpr int kFSReadDirEnd = 0;
 int FSReadDir(DIR_HANDLE& h, DIR_ENTRY& e);
 // Only for a handle that FSOpenDir opened; flags keep their value.
 void FSCloseDir(DIR_HANDLE& h);
 
+// Sets the owner that FSMKDir, FSMKDirP and FSChown give; all ones (the start
+// value) leaves the user or group alone (FSMKDirP, once one of them is set,
+// gives the effective id for the other). Plain statics: call before any other
+// thread uses this layer.
 void FSInitialize(unsigned int user, unsigned int group);
+// chown(path) to that owner: chown's own result, 0 or -1 with errno.
 int FSChown(const ustring& path);
+// Does nothing; kFSOk.
 int FSInit(const ustring& path);
+// Creates an empty file folder + "/XXXXXX" (mkstemp), flushed, mode 0644, and
+// sets out to its path: kFSOk, or kFSFailed (logged) with out untouched.
 int FSMktemp(const ustring& folder, ustring& out);
+// Sets access and modification time in seconds (utime, follows links); kFSOk
+// or kFSFailed with errno.
 int FSUTime(const ustring& path, long atime, long mtime);
+// a == b: times are whole seconds, compared exactly.
 bool FSTimeEqual(long a, long b);
+// True only when access(path, mode) is refused (EACCES, EPERM): a missing path
+// or another error is false. Root passes most access checks.
 bool isFileLocked(const ustring& path, int mode);
-// True for a network volume ("nfs", "smbfs", "afpfs"), not a mount point.
+// True for a network volume ("nfs", "smbfs", "afpfs"), not a mount point. A
+// path whose file system cannot be read is false (logged).
 bool isMountPoint(const ustring& path);
+// True, with a warning logged, for a path on an msdos (FAT) volume. A path
+// whose file system cannot be read is false (logged as an error).
 bool IsMSDOS(const ustring& path);
-// folder + "/" + a fresh temporary name; nothing is created. -1 if empty.
+// folder + "/" + a fresh temporary name; nothing is created. kFSFailed if empty.
 int FSCreateTempPath(const ustring& folder, ustring& out);
 
 #endif

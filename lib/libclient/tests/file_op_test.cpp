@@ -114,7 +114,7 @@ TEST_F(FileOpTest, GetFileInfoDescribesMissingPathsAndLinksThemselves)
 {
     FILE_INFO info;
     const time_t before = time(nullptr);
-    ASSERT_EQ(GetFileInfo(P("missing"), info), 0);
+    ASSERT_EQ(GetFileInfo(P("missing"), info), kFSOk);
     EXPECT_FALSE(info.exist);
     EXPECT_EQ(info.type, FILE_TYPE_REGULAR);
     EXPECT_EQ(info.size, 0);
@@ -126,7 +126,7 @@ TEST_F(FileOpTest, GetFileInfoDescribesMissingPathsAndLinksThemselves)
     fs::create_symlink("file", P("link"));
     fs::create_symlink("nowhere/at/all", P("dangling"));
     for (auto [name, size, path] : {std::tuple{"link", 4, "file"}, {"dangling", 14, "dangling"}}) {
-        ASSERT_EQ(GetFileInfo(P(name), info), 0) << name;
+        ASSERT_EQ(GetFileInfo(P(name), info), kFSOk) << name;
         EXPECT_EQ(info.type, FILE_TYPE_LINK) << name;
         EXPECT_EQ(info.size, size) << name;
         EXPECT_EQ(info.path, ustring(P(path).c_str())) << name;
@@ -140,19 +140,19 @@ TEST_F(FileOpTest, CopyHandlesLargeAndEmptyFilesAndReportsAFullDevice)
     WriteFile(P("big"), "");
     ASSERT_EQ(truncate(P("big").c_str(), big - 3), 0);
     std::ofstream(P("big"), std::ios::app) << "end";
-    ASSERT_EQ(FSCopy(P("big"), P("big.copy"), false), 0);
+    ASSERT_EQ(FSCopy(P("big"), P("big.copy"), false), kFSOk);
     EXPECT_EQ(ReadFile(P("big.copy")).substr(big - 4), std::string(1, '\0') + "end");
 
     WriteFile(P("empty"), "");
     WriteFile(P("dst"), "old text");
-    ASSERT_EQ(FSCopy(P("empty"), P("dst"), true), 0);
+    ASSERT_EQ(FSCopy(P("empty"), P("dst"), true), kFSOk);
     EXPECT_FALSE(Exists(P("empty")));
     EXPECT_EQ(ReadFile(P("dst")), "");
 
     if (access("/dev/full", W_OK) != 0) {
         GTEST_SKIP() << "/dev/full is not available";
     }
-    EXPECT_EQ(FSCopy(P("big"), "/dev/full", true), -2);
+    EXPECT_EQ(FSCopy(P("big"), "/dev/full", true), kFSCopyNoSpace);
     EXPECT_TRUE(Exists(P("big")));  // the source stays on failure
 }
 
@@ -194,7 +194,9 @@ TEST_F(FileOpTest, MoveKeepsTheSourceWhenTheFlushFails)
     const ssize_t got = read(pipe_fds[0], buffer, sizeof(buffer));
     close(pipe_fds[0]);
     ASSERT_EQ(waitpid(child, nullptr, 0), child);
-    EXPECT_EQ(std::string(buffer, got > 0 ? got : 0), "copy -2 kept, move -3 kept");
+    const std::string expected = "copy " + std::to_string(kFSCopyNoSpace) + " kept, move " +
+                                 std::to_string(kFSRenameFailed) + " kept";
+    EXPECT_EQ(std::string(buffer, got > 0 ? got : 0), expected);
 }
 
 TEST_F(FileOpTest, MoveAcrossFileSystemsCopiesFilesTreesAndLinksButNotFifos)
@@ -209,12 +211,18 @@ TEST_F(FileOpTest, MoveAcrossFileSystemsCopiesFilesTreesAndLinksButNotFifos)
     MakeTree(P("tree"));
     fs::create_symlink("../some/target", P("alone"));
     ASSERT_EQ(mkfifo(P("fifo").c_str(), 0600), 0);
+    ASSERT_EQ(chmod(P("file").c_str(), 0600) | chmod(P("tree/sub").c_str(), 0700), 0);
 
+    const mode_t mask = umask(022);
     for (const char* name : {"file", "tree", "alone"}) {
-        EXPECT_EQ(FSRename(P(name), other + "/" + name, false), 0) << name;
+        EXPECT_EQ(FSRename(P(name), other + "/" + name, false), kFSOk) << name;
         EXPECT_FALSE(Exists(P(name))) << name;
     }
-    EXPECT_EQ(FSRename(P("fifo"), other + "/fifo", false), -3);
+    umask(mask);
+    // Mode bits are not carried over: what is made anew gets the umask.
+    EXPECT_EQ(ModeOf(other + "/file"), 0644u);
+    EXPECT_EQ(ModeOf(other + "/tree/sub"), 0755u);
+    EXPECT_EQ(FSRename(P("fifo"), other + "/fifo", false), kFSRenameFailed);
     EXPECT_TRUE(Exists(P("fifo")));
     EXPECT_FALSE(Exists(other + "/fifo"));
 
@@ -233,12 +241,12 @@ TEST_F(FileOpTest, MakeFolderAcceptsOnlyRealFolders)
     WriteFile(P("file"), "x");
     fs::create_symlink("folder", P("link"));
     struct Row { const char* name; std::string path; bool parents; int result; bool made; } rows[] = {
-        {"existing folder", P("folder"), false, 0, true},
-        {"existing file", P("file"), true, -1, false},
-        {"link to a folder", P("link"), true, -1, false},
-        {"missing parent", P("a/b"), false, -2, false},
-        {"with parents", P("a/b/c"), true, 0, true},
-        {"single", P("one"), false, 0, true},
+        {"existing folder", P("folder"), false, kFSOk, true},
+        {"existing file", P("file"), true, kFSMKDirBadPath, false},
+        {"link to a folder", P("link"), true, kFSMKDirBadPath, false},
+        {"missing parent", P("a/b"), false, kFSMKDirCreateFailed, false},
+        {"with parents", P("a/b/c"), true, kFSOk, true},
+        {"single", P("one"), false, kFSOk, true},
     };
     for (const Row& r : rows) {
         EXPECT_EQ(FSMKDir(r.path.c_str(), r.parents), r.result) << r.name;
@@ -251,13 +259,16 @@ TEST_F(FileOpTest, MakeFolderWithParentsReportsErrnoOrForcesItsWay)
     WriteFile(P("file"), "x");
     const char* end = nullptr;
     ustring path = P("file/x/y").c_str();
-    EXPECT_EQ(FSMKDirP(path, &end, false, 0xFFFF), -1);
+    EXPECT_EQ(FSMKDirP(path, &end, false, kFSNoMode), kFSFailed);
     EXPECT_EQ(errno, ENOTDIR);
     EXPECT_EQ(end, path.c_str() + dir.size() + 5);  // just after "file"
-    EXPECT_EQ(FSMKDirP(P("file").c_str(), nullptr, false, 0xFFFF), -1);
+    EXPECT_EQ(FSMKDirP(P("file").c_str(), nullptr, false, kFSNoMode), kFSFailed);
+    EXPECT_EQ(errno, EEXIST);
+    fs::create_symlink("nowhere", P("dangling"));  // followed, so force cannot help
+    EXPECT_EQ(FSMKDirP(P("dangling/x").c_str(), nullptr, true, kFSNoMode), kFSFailed);
     EXPECT_EQ(errno, EEXIST);
 
-    ASSERT_EQ(FSMKDirP(path, &end, true, 0xFFFF), 0);
+    ASSERT_EQ(FSMKDirP(path, &end, true, kFSNoMode), kFSOk);
     EXPECT_TRUE(IsDir(P("file/x/y")));
     EXPECT_EQ(*end, '\0');
 }
@@ -292,7 +303,7 @@ TEST_F(FileOpTest, MakeFolderWithModeLeavesTheUmaskAlone)
         ++calls;
         const int result = FSMKDirP(path, nullptr, false, mode);
         ++calls;
-        EXPECT_EQ(result, 0);
+        EXPECT_EQ(result, kFSOk);
         EXPECT_EQ(ModeOf(top), mode);
         EXPECT_EQ(ModeOf(leaf), mode);
     }
@@ -305,13 +316,13 @@ TEST_F(FileOpTest, MakeFolderWithModeLeavesTheUmaskAlone)
 
 TEST_F(FileOpTest, RemoveTreeNeverFollowsLinks)
 {
-    EXPECT_EQ(FSRemove(P("missing"), false), 0);
+    EXPECT_EQ(FSRemove(P("missing"), false), kFSOk);
     fs::create_directories(P("outside/folder"));
     WriteFile(P("outside/file"), "keep");
     MakeTree(P("tree"));
     fs::create_symlink(P("outside/folder"), P("tree/sub/folder-link"));
     fs::create_symlink(P("outside/file"), P("tree/file-link"));
-    ASSERT_EQ(FSRemove(P("tree"), false), 0);
+    ASSERT_EQ(FSRemove(P("tree"), false), kFSOk);
     EXPECT_FALSE(Exists(P("tree")));
     EXPECT_EQ(ReadFile(P("outside/file")), "keep");
     EXPECT_TRUE(IsDir(P("outside/folder")));
@@ -333,7 +344,7 @@ TEST_F(FileOpTest, RemoveReportsFolderThatCannotBeOpened)
         ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &tight), 0);
         const int result = FSRemove(P("tree"), false);
         ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &saved), 0);
-        EXPECT_EQ(result, -3) << "spare descriptors: " << spare;
+        EXPECT_EQ(result, kFSRemoveFailed) << "spare descriptors: " << spare;
         EXPECT_TRUE(IsDir(P("tree/sub/empty"))) << "spare descriptors: " << spare;
     }
 }
@@ -362,15 +373,15 @@ TEST_F(FileOpTest, ReadFolderListsDotsAndStatusOnlyWhenAsked)
     }
     for (auto [flags, expected] : {std::pair{0, bare}, {FS_DIR_WITH_STAT, withStat}}) {
         DIR_HANDLE h;
-        ASSERT_EQ(FSOpenDir(dir.c_str(), flags, h), 0);
+        ASSERT_EQ(FSOpenDir(dir.c_str(), flags, h), kFSOk);
         Listing listed;
         DIR_ENTRY e;
         int r;
-        while ((r = FSReadDir(h, e)) == 1) {
+        while ((r = FSReadDir(h, e)) == kFSReadDirEntry) {
             listed[e.name.c_str()] = {e.type, e.mtime, e.size};
         }
         FSCloseDir(h);
-        EXPECT_EQ(r, 0);
+        EXPECT_EQ(r, kFSReadDirEnd);
         EXPECT_EQ(listed, expected) << "flags " << flags;
     }
 }
