@@ -29,9 +29,6 @@ const size_t BLOCK_SIZE = 10240;
 const int DISK_OPTIONS = ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT |
                          ARCHIVE_EXTRACT_MAC_METADATA | ARCHIVE_EXTRACT_SECURE_SYMLINKS;
 
-// String table id of "Driftwell is initializing...".
-const int STR_PREPARING = 54;
-
 struct ReadFree {
     void operator()(archive* a) const { archive_read_free(a); }
 };
@@ -156,7 +153,7 @@ int Extractor::Extract()
         return fail("[ERROR] extractor(%d): Invalid Argument\n", __LINE__);
     Logger::LogMsg(Logger::LOG_DEBUG, COMPONENT, "[DEBUG] extractor(%d): decompress from '%s' to '%s'\n", __LINE__,
                    archive_path.c_str(), dest_path.c_str());
-    Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(STR_PREPARING));
+    Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(StrTable::kIdPreparing));
 
     // Counting first costs a second pass over the archive, but the dialog can
     // only show a fraction once the total is known.
