@@ -17,11 +17,6 @@ namespace {
 
 const char kComponent[] = "launcher_debug";
 
-// String table rows of the dialog.
-const int kTextReady = 16;
-const int kTextPreparing = 54;
-const int kTextAppName = 453;
-
 QString ToQString(const ustring& text)
 {
     return QString::fromUtf8(text.c_str_utf8());
@@ -39,13 +34,13 @@ ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, 
     QFont font(QStringLiteral("Arial"));
     const ustring icon_path =
         Service::GetRootDriftwellResourceInstallPath() + "/images/ico_72_driftwell.png";
-    setWindowTitle(StrTable::LoadStr(kTextAppName));
+    setWindowTitle(StrTable::LoadStr(StrTable::kIdAppName));
     // A missing icon file just leaves the window without an icon.
     setWindowIcon(QIcon(ToQString(icon_path)));
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
     setValue(0);
     setRange(0, 100);
-    setLabelText(StrTable::LoadStr(kTextPreparing));
+    setLabelText(StrTable::LoadStr(StrTable::kIdPreparing));
     setFont(font);
     setFixedWidth(400);
     setModal(true);
@@ -113,7 +108,7 @@ void Worker::HandleServicce()
         emit sigShowMsg();
         if (s.HandlePackageUpgrade() == 0) {
             emit sigUpdateProgress(100, 100);
-            emit sigSetLabelText(StrTable::LoadStr(kTextReady));
+            emit sigSetLabelText(StrTable::LoadStr(StrTable::kIdPreparationDone));
         } else {
             // Not fatal: the old copy is back where there was one, and the
             // client is started all the same. The dialog keeps its last state.

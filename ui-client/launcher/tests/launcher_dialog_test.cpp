@@ -43,7 +43,7 @@ TEST(LauncherDialog, MadeOnDemandThenFollowsReportsAndCloses)
     QProgressDialog* dialog = TheDialog();
     ASSERT_NE(nullptr, dialog);
     EXPECT_TRUE(dialog->isVisible());
-    EXPECT_EQ(StrTable::LoadStr(54), dialog->labelText());
+    EXPECT_EQ(StrTable::LoadStr(StrTable::kIdPreparing), dialog->labelText());
     EXPECT_EQ(Qt::WindowModal, dialog->windowModality());
     EXPECT_TRUE(dialog->findChildren<QPushButton*>().isEmpty());
     EXPECT_FALSE(dialog->autoReset());
