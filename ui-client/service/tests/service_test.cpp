@@ -21,6 +21,7 @@
 #include <thread>
 #include <vector>
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -67,7 +68,14 @@ Tree Snapshot(const std::string& root)
                     QDirIterator::Subdirectories);
     while (it.hasNext()) {
         const std::string path = it.next().toStdString();
-        tree[path.substr(root.size() + 1)] = it.fileInfo().isDir() ? "<dir>" : ReadFile(path);
+        const std::string data = it.fileInfo().isDir() ? "<dir>" : ReadFile(path);
+        // Binaries by their digest: a failure prints readable trees.
+        tree[path.substr(root.size() + 1)] =
+            data.size() < 256 ? data
+                              : QCryptographicHash::hash(QByteArray::fromStdString(data),
+                                                         QCryptographicHash::Sha1)
+                                    .toHex()
+                                    .toStdString();
     }
     return tree;
 }

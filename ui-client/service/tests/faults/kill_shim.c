@@ -1,0 +1,222 @@
+// LD_PRELOAD shim of the fault injection only. In the process that loads it,
+// every file-system call on a path below $DW_FAULT_ROOT (open, mkdir, rename,
+// unlink, remove, rmdir, links; the *at forms too) and every kill() that
+// sends a signal is numbered from 1 and appended to $DW_FAULT_TRACE as
+//   number <TAB> monotonic microseconds <TAB> call <TAB> path <TAB> second path
+// before it runs. With $DW_FAULT_KILL_AT=k the process raises SIGKILL on
+// itself instead of making call k. Forked children are not counted, and
+// nothing the process starts inherits the shim.
+#define _GNU_SOURCE
+#include <dirent.h>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <limits.h>
+#include <signal.h>
+#include <stdarg.h>
+#include <stdio.h>
+#include <stdlib.h>
+#include <string.h>
+#include <sys/stat.h>
+#include <sys/types.h>
+#include <time.h>
+#include <unistd.h>
+
+static pid_t g_pid;  // 0 until set up: nothing is counted before
+static char g_root[PATH_MAX];
+static size_t g_root_len;
+static int g_trace = -1;
+static unsigned long g_kill_at;
+static unsigned long g_count;
+
+#define REAL(type, name) \
+    static __typeof__(type) real_##name; \
+    if (real_##name == NULL) \
+        real_##name = (type)dlsym(RTLD_NEXT, #name)
+
+__attribute__((constructor)) static void setup(void)
+{
+    const char* root = getenv("DW_FAULT_ROOT");
+    const char* trace = getenv("DW_FAULT_TRACE");
+    const char* kill_at = getenv("DW_FAULT_KILL_AT");
+    if (root == NULL || strlen(root) >= sizeof g_root)
+        return;
+    strcpy(g_root, root);
+    g_root_len = strlen(g_root);
+    if (kill_at != NULL)
+        g_kill_at = strtoul(kill_at, NULL, 10);
+    if (trace != NULL) {
+        REAL(int (*)(const char*, int, ...), open);
+        g_trace = real_open(trace, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644);
+    }
+    // The client the launcher starts must run as it would without us.
+    unsetenv("LD_PRELOAD");
+    unsetenv("DW_FAULT_ROOT");
+    unsetenv("DW_FAULT_TRACE");
+    unsetenv("DW_FAULT_KILL_AT");
+    g_pid = getpid();
+}
+
+// path made absolute (not normalised) from the folder that dirfd names.
+static void absolute(int dirfd, const char* path, char* out)
+{
+    char base[PATH_MAX] = "";
+    if (path[0] != '/') {
+        if (dirfd == AT_FDCWD) {
+            if (getcwd(base, sizeof base) == NULL)
+                base[0] = '\0';
+        } else {
+            char link[64];
+            snprintf(link, sizeof link, "/proc/self/fd/%d", dirfd);
+            const ssize_t n = readlink(link, base, sizeof base - 1);
+            base[n > 0 ? n : 0] = '\0';
+        }
+    }
+    snprintf(out, PATH_MAX, "%s%s%s", base, base[0] != '\0' ? "/" : "", path);
+}
+
+static int below_root(const char* path)
+{
+    return strncmp(path, g_root, g_root_len) == 0 &&
+           (path[g_root_len] == '/' || path[g_root_len] == '\0');
+}
+
+// path NULL: always counted (kill).
+static void note(const char* call, int dirfd, const char* path, int dirfd2, const char* path2)
+{
+    if (g_pid == 0 || getpid() != g_pid)
+        return;
+    char first[PATH_MAX] = "-", second[PATH_MAX] = "-";
+    if (path != NULL) {
+        absolute(dirfd, path, first);
+        if (path2 != NULL)
+            absolute(dirfd2, path2, second);
+        if (!below_root(first) && !below_root(second))
+            return;
+    }
+    const unsigned long n = __atomic_add_fetch(&g_count, 1, __ATOMIC_SEQ_CST);
+    if (g_trace >= 0) {
+        struct timespec now;
+        clock_gettime(CLOCK_MONOTONIC, &now);
+        char line[3 * PATH_MAX];
+        const int len = snprintf(line, sizeof line, "%lu\t%lld\t%s\t%s\t%s\n", n,
+                                 (long long)now.tv_sec * 1000000 + now.tv_nsec / 1000, call, first,
+                                 second);
+        if (len > 0 && write(g_trace, line, (size_t)len < sizeof line ? (size_t)len : sizeof line) < 0)
+            g_trace = -1;
+    }
+    if (n == g_kill_at)
+        raise(SIGKILL);
+}
+
+static mode_t mode_arg(int flags, va_list args)
+{
+    return (flags & (O_CREAT | O_TMPFILE)) != 0 ? (mode_t)va_arg(args, int) : 0;
+}
+
+#define OPEN_LIKE(name) \
+    int name(const char* path, int flags, ...) \
+    { \
+        va_list args; \
+        va_start(args, flags); \
+        const mode_t mode = mode_arg(flags, args); \
+        va_end(args); \
+        note(#name, AT_FDCWD, path, AT_FDCWD, NULL); \
+        REAL(int (*)(const char*, int, ...), name); \
+        return real_##name(path, flags, mode); \
+    }
+OPEN_LIKE(open)
+OPEN_LIKE(open64)
+
+#define OPENAT_LIKE(name) \
+    int name(int dirfd, const char* path, int flags, ...) \
+    { \
+        va_list args; \
+        va_start(args, flags); \
+        const mode_t mode = mode_arg(flags, args); \
+        va_end(args); \
+        note(#name, dirfd, path, AT_FDCWD, NULL); \
+        REAL(int (*)(int, const char*, int, ...), name); \
+        return real_##name(dirfd, path, flags, mode); \
+    }
+OPENAT_LIKE(openat)
+OPENAT_LIKE(openat64)
+
+// The fortified forms, called where the mode argument is absent.
+#define OPEN_2(name) \
+    int name(const char* path, int flags); \
+    int name(const char* path, int flags) \
+    { \
+        note(#name, AT_FDCWD, path, AT_FDCWD, NULL); \
+        REAL(int (*)(const char*, int), name); \
+        return real_##name(path, flags); \
+    }
+OPEN_2(__open_2)
+OPEN_2(__open64_2)
+
+#define OPENAT_2(name) \
+    int name(int dirfd, const char* path, int flags); \
+    int name(int dirfd, const char* path, int flags) \
+    { \
+        note(#name, dirfd, path, AT_FDCWD, NULL); \
+        REAL(int (*)(int, const char*, int), name); \
+        return real_##name(dirfd, path, flags); \
+    }
+OPENAT_2(__openat_2)
+OPENAT_2(__openat64_2)
+
+// One path argument, any others passed through.
+#define PATH_CALL(ret, name, params, args, path) \
+    ret name params \
+    { \
+        note(#name, AT_FDCWD, path, AT_FDCWD, NULL); \
+        REAL(ret(*) params, name); \
+        return real_##name args; \
+    }
+PATH_CALL(int, creat, (const char* p, mode_t m), (p, m), p)
+PATH_CALL(FILE*, fopen, (const char* p, const char* m), (p, m), p)
+PATH_CALL(FILE*, fopen64, (const char* p, const char* m), (p, m), p)
+PATH_CALL(DIR*, opendir, (const char* p), (p), p)
+PATH_CALL(int, mkdir, (const char* p, mode_t m), (p, m), p)
+PATH_CALL(int, unlink, (const char* p), (p), p)
+PATH_CALL(int, rmdir, (const char* p), (p), p)
+PATH_CALL(int, remove, (const char* p), (p), p)
+
+#define AT_CALL(ret, name, params, args, dirfd, path) \
+    ret name params \
+    { \
+        note(#name, dirfd, path, AT_FDCWD, NULL); \
+        REAL(ret(*) params, name); \
+        return real_##name args; \
+    }
+AT_CALL(int, mkdirat, (int d, const char* p, mode_t m), (d, p, m), d, p)
+AT_CALL(int, unlinkat, (int d, const char* p, int f), (d, p, f), d, p)
+
+#define TWO_PATH_CALL(ret, name, params, args, dirfd, path, dirfd2, path2) \
+    ret name params \
+    { \
+        note(#name, dirfd, path, dirfd2, path2); \
+        REAL(ret(*) params, name); \
+        return real_##name args; \
+    }
+TWO_PATH_CALL(int, rename, (const char* a, const char* b), (a, b), AT_FDCWD, a, AT_FDCWD, b)
+TWO_PATH_CALL(int, renameat, (int da, const char* a, int db, const char* b), (da, a, db, b), da, a,
+              db, b)
+TWO_PATH_CALL(int, renameat2, (int da, const char* a, int db, const char* b, unsigned f),
+              (da, a, db, b, f), da, a, db, b)
+TWO_PATH_CALL(int, link, (const char* a, const char* b), (a, b), AT_FDCWD, a, AT_FDCWD, b)
+TWO_PATH_CALL(int, linkat, (int da, const char* a, int db, const char* b, int f),
+              (da, a, db, b, f), da, a, db, b)
+// A link's target is text, not a path that is touched: only the link counts.
+TWO_PATH_CALL(int, symlink, (const char* t, const char* p), (t, p), AT_FDCWD, p, AT_FDCWD, NULL)
+TWO_PATH_CALL(int, symlinkat, (const char* t, int d, const char* p), (t, d, p), d, p, AT_FDCWD,
+              NULL)
+
+// The stop's probes (signal 0) are left out: how many there are depends on
+// how fast the client dies, and the numbers of later calls must not.
+int kill(pid_t pid, int sig)
+{
+    if (sig != 0)
+        note("kill", AT_FDCWD, NULL, AT_FDCWD, NULL);
+    REAL(int (*)(pid_t, int), kill);
+    return real_kill(pid, sig);
+}
