@@ -14,13 +14,16 @@
 #include "file-op.h"
 #include "log.h"
 #include "process_identity.h"
+#include "process_stop.h"
 
 namespace {
 
 const char kComponent[] = "service_debug";
 const char kClientExecutable[] = "drift-ui";
-// Probes of the stopped client, one second apart, before SIGKILL.
+// The stopped client has five probes of up to a second each to end before
+// SIGKILL; each returns as soon as it has ended.
 const int kStopProbes = 5;
+const int kProbeMs = 1000;
 
 ustring ClientExecutablePath(const ustring& app)
 {
@@ -161,7 +164,8 @@ void MacService::StopService()
     // The pid file outlives its client; its number may since belong to
     // anybody. Only the per-user client itself is ever signalled.
     const ustring exe = ClientExecutablePath(app_path);
-    switch (MatchProcessExecutable(pid, exe.c_str())) {
+    HeldProcess client;
+    switch (client.Open(pid, exe.c_str())) {
     case PROCESS_MISSING:
         return;  // stale pid file: the client has ended already
     case PROCESS_OTHER:
@@ -174,26 +178,20 @@ void MacService::StopService()
         break;
     }
 
-    if (kill(pid, SIGTERM) != 0) {
-        if (errno == ESRCH)
-            return;
-        // Logged and ignored: the probes and SIGKILL still follow.
-        const int err = errno;
+    const int err = client.Signal(SIGTERM);
+    if (err == ESRCH)
+        return;
+    if (err != 0) {
+        // Logged and ignored: the wait and SIGKILL still follow.
         Logger::LogMsg(Logger::LOG_ERROR, kComponent, "[ERROR] mac/mac-service(%d): kill: %s (%d)\n",
                        __LINE__, strerror(err), err);
     }
     for (int probe = 0; probe < kStopProbes; ++probe) {
-        if (kill(pid, 0) != 0 && errno == ESRCH)
+        if (client.WaitForExit(kProbeMs))
             return;
-        // Ended but not reaped yet (a zombie answers the probe), or the number
-        // has already gone to another process: either way the client is gone.
-        if (MatchProcessExecutable(pid, exe.c_str()) != PROCESS_MATCHES)
-            return;
-        sleep(1);
     }
     // Unchecked: nothing else could be done about a client that survives it.
-    if (ProcessRunsExecutable(pid, exe.c_str()))
-        kill(pid, SIGKILL);
+    client.Signal(SIGKILL);
 }
 
 int MacService::LaunchPerUserBin()

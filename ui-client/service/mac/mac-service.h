@@ -11,10 +11,12 @@ public:
     MacService();
     static MacService* GetInstace();
 
-    // Stops the running client UI through ~/.Driftwell/ui.pid: SIGTERM, five
-    // one-second probes, SIGKILL. Only a process that runs the per-user client
-    // executable is ever signalled; a pid file naming anything else is logged
-    // and left alone. Reports nothing: the upgrade goes on in every case.
+    // Stops the running client UI through ~/.Driftwell/ui.pid: SIGTERM, up to
+    // five probes of a second, SIGKILL; it returns as soon as the client has
+    // ended. Only a process that runs the per-user client executable is ever
+    // signalled, and only that very process (not a later one with its number);
+    // a pid file naming anything else is logged and left alone. Reports
+    // nothing: the upgrade goes on in every case.
     void StopService() override;
     int HandlePackageUpgrade() override;
     void PostUpgrade() override;

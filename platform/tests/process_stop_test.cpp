@@ -1,0 +1,176 @@
+// Real child processes (sleep, with SIGTERM kept or ignored) stopped through
+// HeldProcess and through the fallback that goes by number; and a number
+// handed to a new process of the same program after its owner ended.
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <string>
+#include <thread>
+
+#include <gtest/gtest.h>
+
+#include "process_stop.h"
+
+namespace {
+
+const char kSleep[] = "/bin/sleep";
+
+// Runs /bin/sleep in a child (SIGTERM ignored if asked: that survives exec)
+// and waits until the exec has happened. Only as pid when want is given.
+pid_t StartSleep(bool ignore_term, pid_t want = 0)
+{
+    const pid_t pid = fork();
+    if (pid == 0) {
+        if (want != 0 && getpid() != want)
+            _exit(0);
+        if (ignore_term)
+            signal(SIGTERM, SIG_IGN);
+        execl(kSleep, "sleep", "60", static_cast<char*>(nullptr));
+        _exit(127);
+    }
+    if (want != 0 && pid != want) {
+        waitpid(pid, nullptr, 0);
+        return -1;
+    }
+    for (int i = 0; i < 600 && MatchProcessExecutable(pid, kSleep) != PROCESS_MATCHES; ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    return pid;
+}
+
+// The signal that ended the reaped child, 0 when it exited by itself.
+int Reap(pid_t pid)
+{
+    int status = 0;
+    if (waitpid(pid, &status, 0) != pid)
+        return -1;
+    return WIFSIGNALED(status) ? WTERMSIG(status) : 0;
+}
+
+bool Running(pid_t pid)
+{
+    return waitpid(pid, nullptr, WNOHANG) == 0;
+}
+
+// The next process this namespace makes gets pid (if it is free); needs the
+// right to set kernel.ns_last_pid.
+bool NextPidWillBe(pid_t pid)
+{
+    const int fd = open("/proc/sys/kernel/ns_last_pid", O_WRONLY | O_CLOEXEC);
+    if (fd < 0)
+        return false;
+    const std::string text = std::to_string(pid - 1);
+    const bool ok = write(fd, text.data(), text.size()) == static_cast<ssize_t>(text.size());
+    close(fd);
+    return ok;
+}
+
+TEST(ProcessStop, EndsOnSigtermOrOnlyOnSigkill)
+{
+    for (const bool ignores : {false, true}) {
+        SCOPED_TRACE(ignores ? "ignores SIGTERM" : "ends on SIGTERM");
+        const pid_t child = StartSleep(ignores);
+        HeldProcess held;
+        ASSERT_EQ(held.Open(child, kSleep), PROCESS_MATCHES);
+        EXPECT_TRUE(held.Pinned()) << "pidfds refused here: only the fallback is tested";
+        EXPECT_EQ(held.Signal(SIGTERM), 0);
+        if (ignores) {
+            EXPECT_FALSE(held.WaitForExit(200));
+            EXPECT_TRUE(Running(child));
+            EXPECT_EQ(held.Signal(SIGKILL), 0);
+        }
+        // Not reaped: a zombie has ended all the same.
+        EXPECT_TRUE(held.WaitForExit(60000));
+        EXPECT_TRUE(held.WaitForExit(0));
+        EXPECT_EQ(Reap(child), ignores ? SIGKILL : SIGTERM);
+        EXPECT_EQ(held.Signal(SIGKILL), ESRCH);
+    }
+}
+
+TEST(ProcessStop, HoldsNothingButTheNamedProgram)
+{
+    const pid_t zombie = fork();
+    if (zombie == 0)
+        _exit(0);
+    const pid_t other = StartSleep(false);
+    const struct {
+        const char* name;
+        pid_t pid;
+        const char* exe;
+        ProcessMatch match;
+    } rows[] = {
+        {"zero", 0, kSleep, PROCESS_MISSING},
+        {"negative", -1, kSleep, PROCESS_MISSING},
+        {"process_group", -other, kSleep, PROCESS_MISSING},
+        {"zombie", zombie, "/proc/self/exe", PROCESS_MISSING},
+        {"other_program", other, "/bin/sh", PROCESS_OTHER},
+    };
+    // Until the zombie is one, it may still count as us.
+    for (int i = 0; i < 600 && MatchProcessExecutable(zombie, "/proc/self/exe") != PROCESS_MISSING; ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        HeldProcess held;
+        EXPECT_EQ(held.Open(row.pid, row.exe), row.match);
+        EXPECT_EQ(held.Signal(SIGKILL), ESRCH);
+        EXPECT_FALSE(held.WaitForExit(0));
+        EXPECT_EQ(SignalIfRunning(row.pid, row.exe, SIGKILL), ESRCH);
+    }
+    EXPECT_TRUE(Running(other));
+    kill(other, SIGKILL);
+    Reap(other);
+    Reap(zombie);
+}
+
+// Where pidfds are refused: the number, checked before each signal and probe.
+TEST(ProcessStop, FallbackProbesByNumber)
+{
+    for (const bool ignores : {false, true}) {
+        SCOPED_TRACE(ignores ? "ignores SIGTERM" : "ends on SIGTERM");
+        const pid_t child = StartSleep(ignores);
+        EXPECT_FALSE(ProbeForExit(child, kSleep, 0));
+        EXPECT_EQ(SignalIfRunning(child, "/bin/sh", SIGKILL), ESRCH);
+        EXPECT_EQ(SignalIfRunning(child, kSleep, SIGTERM), 0);
+        if (ignores) {
+            EXPECT_FALSE(ProbeForExit(child, kSleep, 200));
+            EXPECT_TRUE(Running(child));
+            EXPECT_EQ(SignalIfRunning(child, kSleep, SIGKILL), 0);
+        }
+        EXPECT_TRUE(ProbeForExit(child, kSleep, 60000));
+        EXPECT_EQ(SignalIfRunning(child, kSleep, SIGKILL), ESRCH);
+        EXPECT_EQ(Reap(child), ignores ? SIGKILL : SIGTERM);
+        EXPECT_TRUE(ProbeForExit(child, kSleep, 0));
+    }
+}
+
+// The held client ends and its number goes to a new process of the very same
+// program: an identity check by number cannot tell them apart, the pidfd can.
+TEST(ProcessStop, NumberReusedBySameProgramIsNeverSignalled)
+{
+    const pid_t first = StartSleep(false);
+    HeldProcess held;
+    ASSERT_EQ(held.Open(first, kSleep), PROCESS_MATCHES);
+    if (!held.Pinned())
+        GTEST_SKIP() << "pidfds refused here";
+    kill(first, SIGKILL);
+    ASSERT_EQ(Reap(first), SIGKILL);
+    pid_t second = -1;
+    for (int attempt = 0; attempt < 20 && second < 0; ++attempt) {
+        if (!NextPidWillBe(first))
+            GTEST_SKIP() << "cannot choose the next pid (kernel.ns_last_pid)";
+        second = StartSleep(false, first);
+    }
+    ASSERT_EQ(second, first) << "another process took the number first every time";
+    ASSERT_EQ(MatchProcessExecutable(second, kSleep), PROCESS_MATCHES);
+
+    EXPECT_TRUE(held.WaitForExit(0));
+    EXPECT_EQ(held.Signal(SIGTERM), ESRCH);
+    EXPECT_EQ(held.Signal(SIGKILL), ESRCH);
+    EXPECT_TRUE(Running(second));
+    kill(second, SIGKILL);
+    EXPECT_EQ(Reap(second), SIGKILL);
+}
+
+}  // namespace
