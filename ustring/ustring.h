@@ -8,6 +8,17 @@
 // Buffers come from realloc/free; a failed allocation throws std::bad_alloc and
 // leaves the buffer being grown as it was. A null pointer argument counts as an
 // empty text. A pointer into this string's own buffer (start or middle) is safe.
+//
+// Threads: nothing is locked. The const members that read only the UTF-8 side
+// (c_str, length, find, compare, substr, copying from it, ...) never write and
+// may run on one ustring from several threads at once. c_str_utf16() and
+// normalize() (either form, on the string normalised) are const but fill the
+// UTF-16 cache when it is not current, so they write: two threads calling them
+// on the same ustring, or one calling them while another holds a pointer from
+// c_str_utf16(), need a lock. Once the cache is filled they only read, except
+// for a non-empty text whose UTF-16 form cannot be made (invalid UTF-8) or
+// comes out empty (a leading NUL byte): that keeps no cache and is converted
+// again on every call.
 #ifndef DW_USTRING_USTRING_H
 #define DW_USTRING_USTRING_H
 

@@ -33,8 +33,9 @@ int main(int argc, char* argv[])
     // The progress dialog is the only window; its hiding must not end the loop.
     app.setQuitOnLastWindowClosed(false);
 
-    // Opened before the single-instance test, whose refusal is logged. Without
-    // a log folder the logger keeps writing to standard error.
+    // Opened before the single-instance test, whose refusal is logged (at
+    // debug level). Without a log folder the logger keeps writing to standard
+    // error.
     const ustring debug_file = Service::GetRootDriftwellInstallPath() + "/log/launcher.debug";
     const ustring log_dir = Service::GetUserDriftwellInstallPath() + "/log";
     if (QDir().mkpath(QString::fromUtf8(log_dir.c_str_utf8())))

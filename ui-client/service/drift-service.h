@@ -18,12 +18,24 @@ class Service {
 public:
     Service();
     virtual ~Service();
+    // Stops the running per-user client so that its copy can be replaced.
+    // Reports nothing: the upgrade goes on whether or not a client ran or
+    // stopped.
     virtual void StopService() = 0;
     virtual void SetTimeout(int value);
-    // 0 success, -1 failure.
+    // Installs or upgrades the per-user copy: stops a client that is installed,
+    // then PrepareUserEnv(). 0 when the new copy is in place; -1 (logged) when
+    // not, with the old copy put back where there was a complete one.
     virtual int HandlePackageUpgrade() = 0;
+    // Opens the per-user bundle (starts the client or brings it to the front),
+    // upgraded or not. A failure is logged; the launcher ends normally anyway.
     virtual void PostUpgrade() = 0;
+    // Loads the bundle's and the per-user copy's version records; a missing
+    // file or key leaves the field as it was. Called once, before anything else.
     virtual void PreUpgrade() = 0;
+    // From the records that PreUpgrade loaded: true when the per-user copy must
+    // be installed or upgraded (its client executable is missing, its record
+    // has no build number, or the bundle's build number is greater).
     virtual bool IsNeedUpgrade() = 0;
     // Extracts the bundle's package into the per-user bundle folder; 0 or -1.
     virtual int ExtractPackage();
