@@ -175,6 +175,10 @@ void Launcher::UpdateProgress(int total, int steps)
         return;
     // 64-bit so that a huge step count cannot overflow; truncates toward zero.
     const int value = static_cast<int>(static_cast<qint64>(steps) * 100 / total);
+    // Logged once per shown value, not per entry: a large package would
+    // otherwise flood and rotate the log. The bar ignores values out of range.
+    if (value == m_dialog->value() || value < m_dialog->minimum() || value > m_dialog->maximum())
+        return;
     Logger::LogMsg(Logger::LOG_DEBUG, kComponent, "[DEBUG] launcher(%d): progress %d\n", __LINE__,
                    value);
     m_dialog->setValue(value);

@@ -141,6 +141,11 @@ TEST(LauncherLimits, HundredThousandEntriesInstallCompletely)
     const RunResult r = b.run();
     std::cout << "100000 entries installed in " << timer.elapsed() << " ms\n";
     ASSERT_TRUE(r.exited_with_zero) << qPrintable(r.err);
+    // One debug line per shown percentage, not per entry.
+    const QStringList progress = LinesWith(b.log(), "): progress ");
+    EXPECT_LE(progress.size(), 101);
+    ASSERT_FALSE(progress.isEmpty());
+    EXPECT_TRUE(progress.last().endsWith("): progress 100")) << qPrintable(progress.last());
     const QMap<QString, QByteArray> tree = FileTree(b.userApp());
     EXPECT_EQ(package.size(), tree.size());
     for (const PackageEntry& e : package)
