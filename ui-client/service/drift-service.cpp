@@ -1,5 +1,6 @@
 #include "drift-service.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 #include <cstdio>
 #include <cstdlib>
@@ -42,9 +43,9 @@ ustring GetAppBackupDir(const ustring& base, int number)
     return name + postfix;
 }
 
-// A missing file or key leaves the field as it was; QSettings' status is not
-// consulted, a broken record simply yields fewer keys.
-void ReadVersionRecord(const ustring& path, VerInfo& info)
+// A missing file or key leaves the field as it was: a broken record simply
+// yields fewer keys. Its status tells the caller why, where that matters.
+QSettings::Status ReadVersionRecord(const ustring& path, VerInfo& info)
 {
     QSettings record(QString::fromUtf8(path.c_str_utf8()), QSettings::IniFormat);
     record.beginGroup("Version");
@@ -61,6 +62,24 @@ void ReadVersionRecord(const ustring& path, VerInfo& info)
         if (record.contains(f.key))
             *f.field = ToUstring(record.value(f.key).toString());
     }
+    return record.status();
+}
+
+// Why the bundle's record, read as info, gives no build number to compare;
+// nullptr when it does. QSettings takes junk for an empty record, so what is
+// missing is the build.
+const char* TargetRecordProblem(const ustring& path, QSettings::Status status, const VerInfo& info)
+{
+    struct stat st;
+    if (stat(path.c_str(), &st) != 0 || !S_ISREG(st.st_mode) || status == QSettings::AccessError)
+        return "cannot be read";
+    if (status == QSettings::FormatError)
+        return "is malformed";
+    if (info.build_version.empty())
+        return "has no build number";
+    char* end = nullptr;
+    std::strtol(info.build_version.c_str(), &end, 10);
+    return *end == '\0' ? nullptr : "has a build number that is not a number";
 }
 
 // As the upgrade decision reads it: empty is 0, otherwise atoi.
@@ -175,12 +194,20 @@ ustring Service::GetUserDriftwellDataInstallPath()
 
 void Service::LoadTargetVersion()
 {
-    ReadVersionRecord(GetRootDriftwellResourceInstallPath() + "/" + "INFO", target_version);
+    const ustring path = GetRootDriftwellResourceInstallPath() + "/" + "INFO";
+    const QSettings::Status status = ReadVersionRecord(path, target_version);
     Logger::LogMsg(Logger::LOG_INFO, kComponent,
                    "[INFO] drift-service(%d): target_version = (%s, %s, %s, %s)\n", __LINE__,
                    target_version.major_version.c_str(), target_version.minor_version.c_str(),
                    target_version.build_version.c_str(),
                    target_version.icon_overlay_version.c_str());
+    // A broken bundle: without its build nothing is upgraded unless the
+    // client is missing.
+    if (const char* problem = TargetRecordProblem(path, status, target_version)) {
+        Logger::LogMsg(Logger::LOG_WARNING, kComponent,
+                       "[WARNING] drift-service(%d): bundle version record '%s' %s\n", __LINE__,
+                       path.c_str(), problem);
+    }
 }
 
 void Service::LoadSourceVersion()

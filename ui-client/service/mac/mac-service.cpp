@@ -134,13 +134,25 @@ int MacService::HandlePackageUpgrade()
     return PrepareUserEnv();
 }
 
-pid_t MacService::ReadPidFile(const ustring& path)
+pid_t MacService::ReadPidFile(const ustring& path, ustring* problem)
 {
+    ustring why;
     Config pid_file;
-    if (pid_file.read(path) < 0)
-        return 0;
-    const auto it = pid_file.entries.find("pid");
-    return it == pid_file.entries.end() ? 0 : ParsePid(it->second);
+    pid_t pid = 0;
+    if (pid_file.read(path) < 0) {
+        // Gone since it was found: the client has just ended, nothing wrong.
+        if (access(path.c_str(), F_OK) == 0)
+            why = access(path.c_str(), R_OK) == 0 ? "not a key-value file" : strerror(errno);
+    } else {
+        const auto it = pid_file.entries.find("pid");
+        if (it == pid_file.entries.end())
+            why = "no pid entry";
+        else if ((pid = ParsePid(it->second)) <= 0)
+            why = "pid '" + it->second + "' is not a process id";
+    }
+    if (problem != nullptr)
+        *problem = why;
+    return pid;
 }
 
 void MacService::StopService()
@@ -153,8 +165,14 @@ void MacService::StopService()
                        __LINE__, pid_path.c_str());
         return;
     }
-    const pid_t pid = ReadPidFile(pid_path);
+    ustring problem;
+    const pid_t pid = ReadPidFile(pid_path, &problem);
     if (pid <= 0) {
+        if (!problem.empty()) {
+            Logger::LogMsg(Logger::LOG_WARNING, kComponent,
+                           "[WARNING] mac/mac-service(%d): pid file '%s' is unusable: %s\n",
+                           __LINE__, pid_path.c_str(), problem.c_str());
+        }
         Logger::LogMsg(Logger::LOG_NOTE, kComponent,
                        "[NOTE] mac/mac-service(%d): Failed to read pid file '%s', not exist ?\n",
                        __LINE__, pid_path.c_str());

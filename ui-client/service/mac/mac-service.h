@@ -33,7 +33,8 @@ public:
     // The "pid" of the pid file when the file reads as a key-value file and the
     // value is a whole decimal number (blanks around it allowed, no sign) in
     // 1..MaxProcessId(); 0 otherwise (missing, unreadable, empty, junk, range).
-    static pid_t ReadPidFile(const ustring& path);
+    // problem, if given, receives what was wrong with a file that exists.
+    static pid_t ReadPidFile(const ustring& path, ustring* problem = nullptr);
 };
 
 #endif

@@ -340,6 +340,14 @@ TEST_F(ServiceTest, DecidesOnBuildNumbersAndTheExecutable)
         {"no_bundle_record", nullptr, "[Version]\nbuild_version=10\n", true, false, 10, 0, {}},
         {"copy_without_record", "[Version]\nbuild_version=0\n", nullptr, true, true, 0, 0, {}},
     };
+    // Without a build of its own the bundle upgrades nothing: worth a warning.
+    const std::map<std::string, std::string> bundle_problems = {
+        {"negative_source_empty_target", "has no build number"},
+        {"digits_then_letters", "has a build number that is not a number"},
+        {"leading_letter", "has a build number that is not a number"},
+        {"keys_outside_the_group", "has no build number"},
+        {"no_bundle_record", "cannot be read"},
+    };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         QDir(QString::fromStdString(app_)).removeRecursively();
@@ -360,6 +368,11 @@ TEST_F(ServiceTest, DecidesOnBuildNumbersAndTheExecutable)
         if (!row.log.empty()) {
             EXPECT_EQ(log, row.log);
         }
+        const auto problem = bundle_problems.find(row.name);
+        EXPECT_EQ(Warnings(), problem == bundle_problems.end()
+                                  ? Lines{}
+                                  : Lines{"[WARNING] drift-service(N): bundle version record '" +
+                                          bundle_ + "/Contents/Resources/INFO' " + problem->second});
     }
 }
 
@@ -384,8 +397,14 @@ TEST_F(ServiceTest, StopSignalsOnlyAPidFileNamingTheClient)
         return ReadFile("/proc/" + std::to_string(other) + "/cmdline").rfind("sleep", 0) == 0;
     }));
     const std::string c = std::to_string(client), o = std::to_string(other);
-    const std::string unreadable =
-        "[NOTE] mac/mac-service(N): Failed to read pid file '" + pid_file_ + "', not exist ?";
+    const auto unusable = [&](const std::string& why) {
+        return Lines{"[WARNING] mac/mac-service(N): pid file '" + pid_file_ + "' is unusable: " + why,
+                     "[NOTE] mac/mac-service(N): Failed to read pid file '" + pid_file_ +
+                         "', not exist ?"};
+    };
+    const auto not_a_pid = [&](const std::string& text) {
+        return unusable("pid '" + text + "' is not a process id");
+    };
     const struct {
         const char* name;
         std::string text;  // empty: no pid file
@@ -395,13 +414,14 @@ TEST_F(ServiceTest, StopSignalsOnlyAPidFileNamingTheClient)
         {"stale", "pid=" + std::to_string(ended) + "\n", {}},
         {"reused_by_another_program", "pid=" + o + "\n",
          {"[NOTE] mac/mac-service(N): pid " + o + " is not the Driftwell UI, not signalled"}},
-        {"zero", "pid=0\n", {unreadable}},
-        {"negative", "pid=-1\n", {unreadable}},
-        {"text", "pid=abc\n", {unreadable}},
-        {"too_large", "pid=99999999999\n", {unreadable}},
-        {"missing_key", "other=" + c + "\n", {unreadable}},
-        {"trailing_junk", "pid=" + c + "abc\n", {unreadable}},
-        {"process_group", "pid=-" + c + "\n", {unreadable}},
+        {"zero", "pid=0\n", not_a_pid("0")},
+        {"negative", "pid=-1\n", not_a_pid("-1")},
+        {"text", "pid=abc\n", not_a_pid("abc")},
+        {"too_large", "pid=99999999999\n", not_a_pid("99999999999")},
+        {"missing_key", "other=" + c + "\n", unusable("no pid entry")},
+        {"trailing_junk", "pid=" + c + "abc\n", not_a_pid(c + "abc")},
+        {"process_group", "pid=-" + c + "\n", not_a_pid("-" + c)},
+        {"binary", "\x89PNG\r\n\x1a\npid=" + c + "\n", unusable("not a key-value file")},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
