@@ -1,17 +1,22 @@
 #!/usr/bin/env bash
 # Start-up benchmark of the launcher:
-#   bash bench/startup/run.sh [RUNS]      (default 41 runs per variant)
+#   bash bench/startup/run.sh [RUNS [UPGRADE_RUNS [PHASE_RUNS]]]   (default 41, 15 and 7)
 #
 # 1. No-upgrade launch: the launcher from exec to exit, with the per-user copy
 #    current and the client already running (so nothing new is started),
 #    against qapp_floor, which only creates a QApplication. Offscreen, then
 #    under an Xvfb of our own. Target: the launcher within 1.4x of the floor.
-# 2. Whole upgrade of the demo package, launch to exit (installed copy made to
-#    look older, client not running), against `bsdtar -xf` of the same package.
+#    RUNS 0 skips this part.
+# 2. Whole upgrade, launch to exit, with the client running (it quits at once
+#    on SIGTERM), on tmpfs (/dev/shm) and on the main disk: the 140 MiB package
+#    of bench/extract's generator as tar.zst, with the demo client in place of
+#    the generator's drift-ui, against `bsdtar -xf` of the same package into
+#    an empty folder, interleaved. Then PHASE_RUNS more upgrades with the debug
+#    levels on, watched by upgrade_phases: where the time goes.
 #
-# Works on a copy of the bundle (without the demo's debug log levels) and a
-# sandbox home in a temporary folder; stops every process it started.
-# BUILD_DIR picks the build folder (default: build).
+# Works on copies of the bundle (without the demo's debug log levels) and
+# sandbox home folders; stops every process it started. BUILD_DIR picks the
+# build folder (default: build-bench, shared with bench/extract).
 set -euo pipefail
 
 # Whether process $1 runs (a zombie no longer counts).
@@ -48,70 +53,123 @@ stop_client() {
   done
 }
 
-# Run before each timed upgrade: stop the client that the last launch started
-# and make the installed copy one that the bundle's build supersedes.
+# Run before each timed upgrade: with the client that the last launch started
+# running (and settled), make the installed copy one that the bundle's build
+# supersedes; flush the last run's writes so that they do not land in this one.
 if [ "${1:-}" = --age-installed-copy ]; then
   wait_for_client
-  stop_client
+  sleep 0.2
   sed -i 's/^build_version=.*/build_version=0/' "$HOME/.Driftwell/Driftwell.app/Contents/Resources/INFO"
+  sync
   exit 0
 fi
 
 cd "$(dirname "$0")/../.."
 top=$(pwd)
+self=$top/bench/startup/run.sh
 runs=${1:-41}
+upgrade_runs=${2:-15}
+phase_runs=${3:-7}
 
 bash scripts/deps.sh
-build=$top/${BUILD_DIR:-build}
-cmake -S . -B "$build" -DDW_BENCH=ON >/dev/null
-cmake --build "$build" --target bundle qapp_floor startup_timer -j"$(nproc 2>/dev/null || echo 2)" >/dev/null
+build=$top/${BUILD_DIR:-build-bench}
+cmake -S . -B "$build" -DDW_TESTS=OFF -DDW_BENCH=ON -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
+cmake --build "$build" --target bundle qapp_floor startup_timer upgrade_phases extract_gen make_package \
+  -j"$(nproc 2>/dev/null || echo 2)" >/dev/null
+command -v bsdtar >/dev/null || { echo "bsdtar is missing (Debian package libarchive-tools)" >&2; exit 1; }
+bsdtar=$(command -v bsdtar)
+floor=$build/bench/startup/qapp_floor
+timer=$build/bench/startup/startup_timer
+phases=$build/bench/startup/upgrade_phases
 
-work=$(mktemp -d "${TMPDIR:-/tmp}/dw-startup.XXXXXX")
-# The sandbox home comes first: cleanup stops the client that it names.
-export HOME=$work/home TMPDIR=$work/tmp
-mkdir -p "$HOME" "$TMPDIR"
+# One sandbox per file system: bundle copy, home and temporary folder.
+sandboxes=()
 xvfb_pid=""
 cleanup() {
-  stop_client
+  local box
+  for box in "${sandboxes[@]}"; do
+    HOME=$box/home stop_client
+    rm -rf "$box"
+  done
   [ -n "$xvfb_pid" ] && kill "$xvfb_pid" 2>/dev/null && wait "$xvfb_pid" 2>/dev/null
-  rm -rf "$work"
+  return 0
 }
 trap cleanup EXIT
 
-cp -a "$build/Driftwell.app" "$work/"
-rm -rf "$work/Driftwell.app/log"
-launcher=$work/Driftwell.app/Contents/MacOS/launcher
-package=$work/Driftwell.app/Contents/Resources/package/driftwell.tpk
-floor=$build/bench/startup/qapp_floor
-timer=$build/bench/startup/startup_timer
+# sandbox BASE: a fresh sandbox below BASE; sets work, HOME, TMPDIR, launcher, package.
+sandbox() {
+  work=$(mktemp -d "$1/dw-startup.XXXXXX")
+  sandboxes+=("$work")
+  export HOME=$work/home TMPDIR=$work/tmp
+  mkdir -p "$HOME" "$TMPDIR"
+  cp -a "$build/Driftwell.app" "$work/"
+  rm -rf "$work/Driftwell.app/log"
+  launcher=$work/Driftwell.app/Contents/MacOS/launcher
+  package=$work/Driftwell.app/Contents/Resources/package/driftwell.tpk
+}
 
-echo "== No-upgrade launch, offscreen"
-export QT_QPA_PLATFORM=offscreen
-"$launcher" >/dev/null 2>&1 # installs and starts the client
-wait_for_client
-"$timer" "$runs" --name launcher -- "$launcher" \; --name floor -- "$floor" \;
+if [ "$runs" -gt 0 ]; then
+  sandbox "${TMPDIR:-/tmp}"
+  echo "== No-upgrade launch, offscreen"
+  export QT_QPA_PLATFORM=offscreen
+  "$launcher" >/dev/null 2>&1 # installs and starts the client
+  wait_for_client
+  "$timer" "$runs" --name launcher -- "$launcher" \; --name floor -- "$floor" \;
 
-echo "== No-upgrade launch, Xvfb"
-unset QT_QPA_PLATFORM
-display=""
-for n in $(seq 90 140); do
-  if [ ! -e "/tmp/.X$n-lock" ] && [ ! -e "/tmp/.X11-unix/X$n" ]; then display=:$n; break; fi
-done
-[ -n "$display" ] || { echo "bench: no free X display number" >&2; exit 1; }
-Xvfb "$display" -screen 0 1280x800x24 -nolisten tcp >/dev/null 2>&1 &
-xvfb_pid=$!
-for _ in $(seq 100); do xdpyinfo -display "$display" >/dev/null 2>&1 && break; sleep 0.1; done
-export DISPLAY=$display
-"$timer" "$runs" --name launcher -- "$launcher" \; --name floor -- "$floor" \;
+  echo "== No-upgrade launch, Xvfb"
+  unset QT_QPA_PLATFORM
+  display=""
+  for n in $(seq 90 140); do
+    if [ ! -e "/tmp/.X$n-lock" ] && [ ! -e "/tmp/.X11-unix/X$n" ]; then display=:$n; break; fi
+  done
+  [ -n "$display" ] || { echo "bench: no free X display number" >&2; exit 1; }
+  Xvfb "$display" -screen 0 1280x800x24 -nolisten tcp >/dev/null 2>&1 &
+  xvfb_pid=$!
+  for _ in $(seq 100); do xdpyinfo -display "$display" >/dev/null 2>&1 && break; sleep 0.1; done
+  DISPLAY=$display "$timer" "$runs" --name launcher -- "$launcher" \; --name floor -- "$floor" \;
+  kill "$xvfb_pid" 2>/dev/null
+  wait "$xvfb_pid" 2>/dev/null || true
+  xvfb_pid=""
+fi
 
-echo "== Upgrade of the demo package ($(stat -c %s "$package") bytes), offscreen, against bsdtar -xf"
+# The upgrade package: the generator's tree, its drift-ui kept as drift-core
+# (same size), with the demo client, its icon and its version record on top.
+data=$build/bench/extract/data
+upgrade_package=$build/bench/startup/upgrade.tpk
+mkdir -p "$data"
+"$build/bench/extract/extract_gen" "$data"
+demo_package=$build/Driftwell.app/Contents/Resources/package/driftwell.tpk
+if [ ! -s "$upgrade_package" ] || [ "$upgrade_package" -ot "$data/package.stats" ] ||
+   [ "$upgrade_package" -ot "$demo_package" ]; then
+  stage=$build/bench/startup/upgrade-root
+  rm -rf "$stage" && mkdir -p "$stage"
+  bsdtar -xf "$data/package.tar" -C "$stage"
+  mv "$stage/Contents/MacOS/drift-ui" "$stage/Contents/MacOS/drift-core"
+  bsdtar -xf "$demo_package" -C "$stage"
+  "$build/bundle/make_package" tar.zst "$upgrade_package" "$stage"
+  rm -rf "$stage"
+fi
+
 export QT_QPA_PLATFORM=offscreen
 unset DISPLAY
-upgrade_runs=$(( (runs + 1) / 2 ))
-"$timer" "$upgrade_runs" \
-  --name upgrade --prepare "bash '$top/bench/startup/run.sh' --age-installed-copy" -- "$launcher" \; \
-  --name bsdtar --prepare "rm -rf '$work/x' && mkdir '$work/x'" -- "$(command -v bsdtar)" -xf "$package" -C "$work/x" \;
-# The last upgrade must have put the bundle's record in place.
-wait_for_client
-cmp -s "$work/Driftwell.app/Contents/Resources/INFO" "$HOME/.Driftwell/Driftwell.app/Contents/Resources/INFO" ||
-  { echo "bench: the last launch did not upgrade the installed copy" >&2; exit 1; }
+for place in tmpfs disk; do
+  if [ "$place" = tmpfs ]; then sandbox /dev/shm; else sandbox "$build/bench/startup"; fi
+  cp "$upgrade_package" "$package"
+  echo "== Whole upgrade with the client running, $place ($(stat -f -c %T "$work")), package $(stat -c %s "$package") bytes: launcher against bsdtar -xf"
+  "$launcher" >/dev/null 2>&1 # installs and starts the client
+  "$timer" "$upgrade_runs" \
+    --name upgrade --prepare "bash '$self' --age-installed-copy" -- "$launcher" \; \
+    --name bsdtar --prepare "rm -rf '$work/x' && mkdir '$work/x' && sync" -- "$bsdtar" -xf "$package" -C "$work/x" \;
+  # The last upgrade must have put the whole package in place and started the client.
+  wait_for_client
+  [ "$(cd "$work/x" && find . | sort)" = "$(cd "$HOME/.Driftwell/Driftwell.app" && find . | sort)" ] ||
+    { echo "bench: the last upgrade did not install the whole package" >&2; exit 1; }
+  rm -rf "$work/x"
+
+  mkdir -p "$work/Driftwell.app/log"
+  printf '%s = 7\n' launcher_debug service_debug extractor_debug >"$work/Driftwell.app/log/launcher.debug"
+  "$phases" "$phase_runs" "$HOME" \
+    --prepare "bash '$self' --age-installed-copy && rm -f '$HOME/.Driftwell/log/launcher.log'" -- "$launcher"
+  HOME=$work/home stop_client
+  rm -rf "$work"
+done
