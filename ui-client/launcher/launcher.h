@@ -1,74 +1,19 @@
-// Launcher: the launcher's user interface and its worker thread.
+// Launcher: the launcher's user interface side.
 //
-// The Launcher lives in the user interface thread and owns a Worker, which
-// lives in a HandlerThread of its own and runs the installation flow through
-// the Service interface. All traffic between the two goes through automatic
-// (here: queued) connections, in emission order. The progress dialog exists
-// only on the upgrade path: it is made when the worker asks for it.
+// The Launcher lives in the user interface thread and owns a Worker (worker.h),
+// which lives in a HandlerThread of its own and runs the installation flow
+// through the Service interface. All traffic between the two goes through
+// automatic (here: queued) connections, in emission order. The progress dialog
+// (processing_progress_dialog.h) exists only on the upgrade path: it is made
+// when the worker asks for it.
 #ifndef LAUNCHER_H
 #define LAUNCHER_H
 
 #include <QObject>
-#include <QProgressDialog>
 #include <QString>
-#include <QThread>
 
-class Service;
-
-// Runs nothing but the thread's event loop, so queued calls reach the Worker.
-class HandlerThread : public QThread {
-    Q_OBJECT
-protected:
-    void run() override;
-};
-
-// The modal progress dialog: a percentage (0 to 100) and one line of text.
-// Everything is set in the constructor; it is not shown by it. The user cannot
-// dismiss it (Escape, the close button, a window manager's close): only the
-// launcher hides it once the work is done.
-class ProcessingProgressDialog : public QProgressDialog {
-    Q_OBJECT
-public:
-    ProcessingProgressDialog();
-
-public slots:
-    void reject() override;
-
-protected:
-    void closeEvent(QCloseEvent* event) override;
-};
-
-class Worker : public QObject {
-    Q_OBJECT
-public:
-    // Creates the service, then the thread, and moves itself into that thread;
-    // the thread is not started.
-    Worker();
-    // Quits the thread and waits for it, so a flow still running ends first.
-    ~Worker() override;
-
-    void StartThread();
-    void QuitThread();
-    void JoinThread();
-
-signals:
-    void sigServiceDone();
-    void sigShowMsg();
-    void sigUpdateProgress(int, int);
-    void sigSetLabelText(QString);
-
-private slots:
-    // The installation flow, in the worker thread. A failed upgrade is logged
-    // and the flow goes on to start the client all the same.
-    void HandleServicce();
-
-private:
-    Worker(const Worker&) = delete;
-    Worker& operator=(const Worker&) = delete;
-
-    HandlerThread* m_thread;
-    Service* m_service;
-};
+class ProcessingProgressDialog;
+class Worker;
 
 class Launcher : public QObject {
     Q_OBJECT
