@@ -1,5 +1,8 @@
 // Extractor: unpacks a package archive below dest_path with libarchive,
-// reporting (total, done) after every entry through Notify_Adapter.
+// reporting (total, done) after every entry through Notify_Adapter. A
+// compressed package is counted on a thread of its own while the entries are
+// written; the pairs are sent by the calling thread, in order, those of
+// entries written before the total is known as soon as it is.
 // Every entry path, and every hard-link target, is put below dest_path (an
 // absolute name too); an entry or hard-link target with a ".." component is
 // refused and stops the extraction, as is an entry other than a folder whose

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -262,6 +263,63 @@ TEST_F(ExtractorTest, ReportsEachEntryWrittenAndStopsAtADotDot)
     }
 }
 
+// A compressed package is counted on a thread of its own while the entries
+// are written. The pairs still come in order, one per entry written, those
+// written before the total was known included; a failure is told after them.
+// A package cut short is counted up to the entry it breaks off in.
+TEST_F(ExtractorTest, CountsBesideTheExtraction)
+{
+    // Enough data that the count is still going when the first entry is written.
+    std::mt19937 random(7);
+    std::string bulk(8 << 20, '\0');
+    for (char& c : bulk)
+        c = static_cast<char>(random());
+    std::vector<Entry> many = {{Entry::File, "first", "1"}, {Entry::File, "bulk", bulk}};
+    for (int i = 0; i < 300; ++i)
+        many.push_back({Entry::File, "f" + std::to_string(i), std::to_string(i)});
+    std::vector<Entry> dotdot = many;
+    dotdot.insert(dotdot.begin() + 1, {Entry::File, "../outside/a", "x"});
+    const int n = static_cast<int>(many.size());
+    const std::string extract2 = "[ERROR] extractor(#): archive_read_extract2 failed: ''";
+    const std::string cut_short = "[ERROR] extractor(#): archive_read_extract2, read handle: 'Truncated ";
+    const struct {
+        const char* name;
+        int filter;
+        std::vector<Entry> entries;
+        int total;
+        int written;
+        std::streamoff cut;  // the package cut to this size; 0: whole
+        Lines errors;
+    } rows[] = {
+        {"tar_zst", ARCHIVE_FILTER_ZSTD, many, n, n, 0, {}},
+        {"tar_gz", ARCHIVE_FILTER_GZIP, many, n, n, 0, {}},
+        {"dotdot_tar_zst", ARCHIVE_FILTER_ZSTD, dotdot, n + 1, 1, 0,
+         {"[ERROR] extractor(#): archive_read_extract2 failed: 'Path contains '..''"}},
+        {"truncated_tar", ARCHIVE_FILTER_NONE, many, 2, 1, 4 << 20, {extract2, cut_short + "tar archive'"}},
+        {"truncated_tar_zst", ARCHIVE_FILTER_ZSTD, many, 2, 1, 4 << 20, {extract2, cut_short + "zstd input'"}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        fs::remove_all(dest);
+        fs::create_directory(dest);
+        const std::string archive = make(row.entries, kPax, row.filter);
+        if (row.cut > 0)
+            fs::resize_file(archive, static_cast<uintmax_t>(row.cut));
+        const Outcome out = run(archive, dest);
+        EXPECT_EQ(out.result, row.errors.empty() ? 0 : -1);
+        Pairs progress;
+        for (int done = 1; done <= row.written; ++done)
+            progress.emplace_back(row.total, done);
+        EXPECT_EQ(out.progress, progress);
+        Lines log = {started(archive, dest)};
+        log.insert(log.end(), row.errors.begin(), row.errors.end());
+        EXPECT_EQ(out.log, log);
+        // The entry cut short stays as far as it was written.
+        EXPECT_EQ(tree(dest).size(), static_cast<size_t>(row.written + (row.cut > 0)));
+        EXPECT_EQ(read_file(dest + "/first"), "1");
+    }
+}
+
 TEST_F(ExtractorTest, FailsBeforeWritingAnything)
 {
     const std::string empty = make({});
@@ -271,6 +329,13 @@ TEST_F(ExtractorTest, FailsBeforeWritingAnything)
     // Names that stand for the destination folder itself.
     const std::string unnamed = make({{Entry::File, "", "x"}});
     const std::string dots = make({{Entry::Symlink, "/./", "elsewhere"}});
+    // Compressed, so counted beside the extraction, which finds the same nothing.
+    const std::string empty_zst = make({}, kPax, ARCHIVE_FILTER_ZSTD);
+    // The first header reads with a warning (a damaged pax record) in both
+    // passes: the count's 0 is told, not the extraction's failed header.
+    std::string pax = read_file(make({{Entry::File, std::string(150, 'n'), "x"}}));
+    pax.replace(512, 3, "999");
+    const std::string damaged_zst = make({{Entry::File, "raw", pax}}, ARCHIVE_FORMAT_RAW, ARCHIVE_FILTER_ZSTD);
     const std::string itself = "[ERROR] extractor(#): entry '";
     const std::string refused = "' would take the place of the destination folder";
     const std::string failed = "[ERROR] extractor(#): Failed to calculate total file numbers, ret: ";
@@ -283,6 +348,8 @@ TEST_F(ExtractorTest, FailsBeforeWritingAnything)
         Lines log;
     } rows[] = {
         {"empty_archive", empty, dest, {kInitializing}, {started(empty, dest), failed + "0"}},
+        {"empty_tar_zst", empty_zst, dest, {kInitializing}, {started(empty_zst, dest), failed + "0"}},
+        {"damaged_first_header_zst", damaged_zst, dest, {kInitializing}, {started(damaged_zst, dest), failed + "0"}},
         // Count's failed open is the only one: Extract does not try again.
         {"missing_archive", missing, dest, {kInitializing},
          {started(missing, dest),
