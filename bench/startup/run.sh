@@ -170,6 +170,7 @@ for place in tmpfs disk; do
   printf '%s = 7\n' launcher_debug service_debug extractor_debug >"$work/Driftwell.app/log/launcher.debug"
   "$phases" "$phase_runs" "$HOME" \
     --prepare "bash '$self' --age-installed-copy && rm -f '$HOME/.Driftwell/log/launcher.log'" -- "$launcher"
-  HOME=$work/home stop_client
+  wait_for_client
+  stop_client
   rm -rf "$work"
 done
