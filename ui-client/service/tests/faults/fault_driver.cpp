@@ -100,7 +100,8 @@ public:
     {
         const bool backup = c.path.startsWith(backup_) || c.path2.startsWith(backup_);
         const bool rename = c.func.startsWith("rename");
-        if ((phase_ == kStart || phase_ == kStop) && (c.func == "kill" || c.path == pid_file_))
+        const bool signal = c.func == "kill" || c.func == "pidfd_send_signal";
+        if ((phase_ == kStart || phase_ == kStop) && (signal || c.path == pid_file_))
             return phase_ = kStop;
         if (phase_ == kStop)
             phase_ = kBackup;  // the checks before the rename, then the rename

@@ -1,7 +1,7 @@
 // LD_PRELOAD shim of the fault injection only. In the process that loads it,
 // every file-system call on a path below $DW_FAULT_ROOT (open, mkdir, rename,
-// unlink, remove, rmdir, links; the *at forms too) and every kill() that
-// sends a signal is numbered from 1 and appended to $DW_FAULT_TRACE as
+// unlink, remove, rmdir, links; the *at forms too) and every signal it sends
+// (kill, pidfd_send_signal) is numbered from 1 and appended to $DW_FAULT_TRACE as
 //   number <TAB> monotonic microseconds <TAB> call <TAB> path <TAB> second path
 // before it runs. With $DW_FAULT_KILL_AT=k the process raises SIGKILL on
 // itself instead of making call k. Forked children are not counted, and
@@ -17,6 +17,7 @@
 #include <stdlib.h>
 #include <string.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/types.h>
 #include <time.h>
 #include <unistd.h>
@@ -80,7 +81,7 @@ static int below_root(const char* path)
            (path[g_root_len] == '/' || path[g_root_len] == '\0');
 }
 
-// path NULL: always counted (kill).
+// path NULL: always counted (a signal).
 static void note(const char* call, int dirfd, const char* path, int dirfd2, const char* path2)
 {
     if (g_pid == 0 || getpid() != g_pid)
@@ -210,6 +211,21 @@ TWO_PATH_CALL(int, linkat, (int da, const char* a, int db, const char* b, int f)
 TWO_PATH_CALL(int, symlink, (const char* t, const char* p), (t, p), AT_FDCWD, p, AT_FDCWD, NULL)
 TWO_PATH_CALL(int, symlinkat, (const char* t, int d, const char* p), (t, d, p), d, p, AT_FDCWD,
               NULL)
+
+// Signals through a pidfd, as the stop sends them where it can.
+long syscall(long number, ...)
+{
+    va_list args;
+    va_start(args, number);
+    long a[6];
+    for (int i = 0; i < 6; ++i)
+        a[i] = va_arg(args, long);
+    va_end(args);
+    if (number == SYS_pidfd_send_signal && a[1] != 0)
+        note("pidfd_send_signal", AT_FDCWD, NULL, AT_FDCWD, NULL);
+    REAL(long (*)(long, ...), syscall);
+    return real_syscall(number, a[0], a[1], a[2], a[3], a[4], a[5]);
+}
 
 // The stop's probes (signal 0) are left out: how many there are depends on
 // how fast the client dies, and the numbers of later calls must not.

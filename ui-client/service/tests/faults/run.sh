@@ -7,7 +7,7 @@
 # Defaults: 60 trials, seed 1, 2,400 files (about 2,650 package entries).
 # Configures and builds what it needs in build-faults (another folder with
 # DW_BUILD_DIR=...), and works in a temporary folder ($TMPDIR, else /tmp).
-# About four minutes on two cores for the default run.
+# The default run took 15 minutes on two cores shared with other builds.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/../../../.." && pwd)
 build="${DW_BUILD_DIR:-$root/build-faults}"
