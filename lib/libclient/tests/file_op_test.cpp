@@ -194,9 +194,13 @@ TEST_F(FileOpTest, MoveKeepsTheSourceWhenTheFlushFails)
     const ssize_t got = read(pipe_fds[0], buffer, sizeof(buffer));
     close(pipe_fds[0]);
     ASSERT_EQ(waitpid(child, nullptr, 0), child);
+    const std::string report(buffer, got > 0 ? got : 0);
+    // A chroot or a container may refuse the loop mount although the tools are there.
+    if (report == "no volume")
+        GTEST_SKIP() << "the loop-mounted volume could not be set up here";
     const std::string expected = "copy " + std::to_string(kFSCopyNoSpace) + " kept, move " +
                                  std::to_string(kFSRenameFailed) + " kept";
-    EXPECT_EQ(std::string(buffer, got > 0 ? got : 0), expected);
+    EXPECT_EQ(report, expected);
 }
 
 TEST_F(FileOpTest, MoveAcrossFileSystemsCopiesFilesTreesAndLinksButNotFifos)
