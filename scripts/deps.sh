@@ -1,11 +1,16 @@
 #!/usr/bin/env bash
 # Installs the Debian packages the build, the tests and the demo need, only
 # when one of them is missing. Needs root (or sudo) on a fresh machine.
-# fonts-wqy-microhei draws the Chinese, Japanese and Korean texts of the dialog.
+# Recommendations are not installed: every package used is named here, with
+# those that used to arrive only as a recommendation on a line of their own.
 set -euo pipefail
-PKGS="cmake g++ make qtbase5-dev qttools5-dev qttools5-dev-tools libarchive-dev libicu-dev
-zlib1g-dev pkg-config libgtest-dev xvfb xauth x11-utils imagemagick libarchive-tools clang
-fonts-dejavu-core fonts-wqy-microhei"
+PKGS="cmake g++ make pkg-config qtbase5-dev qttools5-dev qttools5-dev-tools libarchive-dev libicu-dev
+zlib1g-dev libgtest-dev libarchive-tools xvfb x11-utils imagemagick clang
+xauth libclang-rt-14-dev e2fsprogs fonts-dejavu-core fonts-wqy-microhei"
+# xauth: Xvfb's authority files; libclang-rt-14-dev: clang's sanitizer and
+# libFuzzer runtimes; e2fsprogs: the flush-failure test formats a small
+# volume; fonts-dejavu-core: the dialog's Latin and Cyrillic texts;
+# fonts-wqy-microhei: its Chinese, Japanese and Korean texts.
 missing=""
 for p in $PKGS; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing="$missing $p"
@@ -17,4 +22,4 @@ SUDO=""
 export DEBIAN_FRONTEND=noninteractive
 $SUDO apt-get update -q
 # shellcheck disable=SC2086
-$SUDO apt-get install -y -q $missing
+$SUDO apt-get install -y -q --no-install-recommends $missing
