@@ -258,7 +258,7 @@ int Service::PrepareUserEnv()
         // first name the rename accepts.
         for (int n = 0;; ++n) {
             backup = GetAppBackupDir(app, n);
-            if (FSRename(app, backup, false) == 0)
+            if (FSRename(app, backup, false) == kFSOk)
                 break;
             Logger::LogMsg(Logger::LOG_ERROR, kComponent,
                            "[ERROR] drift-service(%d): failed to backup app from '%s' -> '%s'\n",
@@ -366,7 +366,7 @@ int Service::FSCopyPath(const ustring& source, const ustring& destination)
         return -1;
     }
     if (info.type != FILE_TYPE_DIR)
-        return FSCopy(source, destination, false) == 0 ? 0 : -1;
+        return FSCopy(source, destination, false) == kFSOk ? 0 : -1;
 
     if (FSMKDir(destination, true) < 0) {
         Logger::LogMsg(Logger::LOG_ERROR, kComponent,
@@ -385,7 +385,7 @@ int Service::FSCopyPath(const ustring& source, const ustring& destination)
     }
     DIR_ENTRY entry;
     int result = 0;
-    while (FSReadDir(handle, entry) > 0) {
+    while (FSReadDir(handle, entry) == kFSReadDirEntry) {
         if (entry.name.compare(".") == 0 || entry.name.compare("..") == 0)
             continue;
         const ustring child_source = source + "/" + entry.name;
