@@ -1,95 +1,34 @@
-#include <archive.h>
-#include <archive_entry.h>
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
 #include <QEventLoop>
-#include <QTemporaryDir>
 #include <QThread>
 
 #include <filesystem>
 #include <fstream>
-#include <map>
 #include <random>
 #include <string>
 #include <vector>
 
 #include "extractor.h"
 #include "log.h"
+#include "named_rows.h"
 #include "notify_adapter.h"
 #include "strtable.h"
+#include "test_files.h"
 
 namespace fs = std::filesystem;
+using dwtest::Entry;
+using dwtest::Snapshot;
+using dwtest::Tree;
 
 namespace {
 
-struct Entry {
-    enum Kind { File, Folder, Symlink, Hardlink };
-    Kind kind;
-    std::string name;  // stored exactly as given ("../x", "/abs/x" included)
-    std::string data;  // file content, or the link target
-};
-
-const int kPax = ARCHIVE_FORMAT_TAR_PAX_RESTRICTED;
-
-// format and filter are libarchive's codes.
-bool write_archive(const std::string& path, int format, int filter, const std::vector<Entry>& entries)
-{
-    archive* w = archive_write_new();
-    bool ok = archive_write_set_format(w, format) == ARCHIVE_OK && archive_write_add_filter(w, filter) == ARCHIVE_OK &&
-              archive_write_open_filename(w, path.c_str()) == ARCHIVE_OK;
-    const unsigned file_type[] = {AE_IFREG, AE_IFDIR, AE_IFLNK, AE_IFREG};  // by Kind
-    for (const Entry& e : entries) {
-        archive_entry* entry = archive_entry_new();
-        archive_entry_set_pathname(entry, e.name.c_str());
-        archive_entry_set_filetype(entry, file_type[e.kind]);
-        archive_entry_set_perm(entry, e.kind == Entry::Folder ? 0755 : 0644);
-        archive_entry_set_size(entry, e.kind == Entry::File ? static_cast<la_int64_t>(e.data.size()) : 0);
-        if (e.kind == Entry::Symlink)
-            archive_entry_set_symlink(entry, e.data.c_str());
-        if (e.kind == Entry::Hardlink)
-            archive_entry_set_hardlink(entry, e.data.c_str());
-        ok = ok && archive_write_header(w, entry) == ARCHIVE_OK;
-        if (ok && e.kind == Entry::File)
-            ok = archive_write_data(w, e.data.data(), e.data.size()) == static_cast<la_ssize_t>(e.data.size());
-        archive_entry_free(entry);
-    }
-    ok = archive_write_close(w) == ARCHIVE_OK && ok;
-    archive_write_free(w);
-    return ok;
-}
-
-std::string read_file(const std::string& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
-void write_file(const std::string& path, const std::string& content)
-{
-    std::ofstream(path, std::ios::binary) << content;
-}
-
-// Relative path -> "file:<content>", "dir" or "link:<target>"; links are not followed.
-using Tree = std::map<std::string, std::string>;
-Tree tree(const std::string& root)
-{
-    Tree out;
-    std::error_code ec;
-    for (fs::recursive_directory_iterator it(root, ec), end; !ec && it != end; it.increment(ec)) {
-        const std::string rel = it->path().lexically_relative(root).string();
-        if (it->is_symlink())
-            out[rel] = "link:" + fs::read_symlink(it->path()).string();
-        else if (it->is_directory())
-            out[rel] = "dir";
-        else
-            out[rel] = "file:" + read_file(it->path().string());
-    }
-    return out;
-}
-
 using Pairs = std::vector<std::pair<int, int>>;
 using Lines = std::vector<std::string>;
+
+const int kPax = ARCHIVE_FORMAT_TAR_PAX_RESTRICTED;
+const QString kInitializing = "Driftwell is initializing...";
 
 struct Outcome {
     int result = 0;
@@ -99,14 +38,12 @@ struct Outcome {
     Lines log;
 };
 
-const QString kInitializing = "Driftwell is initializing...";
-
 // Logger, string table and application object are process-wide: set up once.
-// Every case runs in the working directory "outside", beside the destination;
-// it holds a decoy "a" and must look the same afterwards.
-class ExtractorTest : public ::testing::Test {
-protected:
-    static void SetUpTestSuite()
+dwtest::TempDir g_log_dir;
+const std::string g_log = g_log_dir.file("launcher.log");
+
+class ExtractorEnvironment : public testing::Environment {
+    void SetUp() override
     {
         static int argc = 1;
         static char* argv[] = {const_cast<char*>("extractor_test"), nullptr};
@@ -114,37 +51,41 @@ protected:
         StrTable::InitStrTable();
         // The bridge belongs to the thread that first asks for it, as in the launcher.
         Notify_Adapter::GetInstance();
-        const std::string levels = log_dir_.filePath("launcher.debug").toStdString();
-        write_file(levels, "extractor_debug = 7\n");
-        ASSERT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, log_path_.c_str(), levels.c_str(), 50), 0);
+        const std::string levels = g_log_dir.file("launcher.debug");
+        dwtest::WriteFile(levels, "extractor_debug = 7\n");
+        ASSERT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, g_log.c_str(), levels.c_str(), 50), 0);
     }
-
-    static void TearDownTestSuite()
+    void TearDown() override
     {
         Logger::Destroy();
         delete app_;
     }
+    QCoreApplication* app_ = nullptr;
+};
+testing::Environment* const g_environment = testing::AddGlobalTestEnvironment(new ExtractorEnvironment);
 
+// Every case runs in the working directory "outside", beside the destination;
+// it holds a decoy "a" and must look the same afterwards.
+class ExtractorTest : public ::testing::Test {
+protected:
     void SetUp() override
     {
         ASSERT_TRUE(fs::create_directory(dest));
         ASSERT_TRUE(fs::create_directory(outside));
-        write_file(outside + "/a", "working directory");
+        dwtest::WriteFile(outside + "/a", "working directory");
         fs::current_path(outside);
     }
 
     void TearDown() override
     {
         fs::current_path(previous_cwd_);
-        EXPECT_EQ(tree(outside), (Tree{{"a", "file:working directory"}}));
+        EXPECT_EQ(Snapshot(outside), (Tree{{"a", "working directory"}}));
     }
-
-    std::string path(const std::string& name) const { return tmp_.filePath(name.c_str()).toStdString(); }
 
     std::string make(const std::vector<Entry>& entries, int format = kPax, int filter = ARCHIVE_FILTER_NONE)
     {
-        const std::string archive = path("package" + std::to_string(archives_++) + ".tpk");
-        EXPECT_TRUE(write_archive(archive, format, filter, entries));
+        const std::string archive = tmp_.file("package" + std::to_string(archives_++) + ".tpk");
+        EXPECT_TRUE(dwtest::WriteArchive(archive, entries, {format, filter}));
         return archive;
     }
 
@@ -152,7 +93,7 @@ protected:
     // the bridge's signals through queued connections, as the launcher does.
     Outcome run(const std::string& archive, const std::string& dest_folder)
     {
-        const auto log_start = static_cast<std::streamoff>(fs::file_size(log_path_));
+        const auto log_start = static_cast<std::streamoff>(fs::file_size(g_log));
         Outcome out;
         QObject receiver;
         QObject::connect(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateDialogText, &receiver,
@@ -177,7 +118,7 @@ protected:
         delete worker;
 
         // The new lines, without the "%b %d %H:%M:%S " stamp and with "#" for the source line.
-        std::ifstream log(log_path_, std::ios::binary);
+        std::ifstream log(g_log, std::ios::binary);
         log.seekg(log_start);
         for (std::string line; std::getline(log, line);) {
             std::string text = line.size() > 16 ? line.substr(16) : line;
@@ -194,136 +135,130 @@ protected:
         return "[DEBUG] extractor(#): decompress from '" + archive + "' to '" + dest_folder + "'";
     }
 
-    QTemporaryDir tmp_;
-    const std::string dest = path("dest");
-    const std::string outside = path("outside");
+    dwtest::TempDir tmp_;
+    const std::string dest = tmp_.file("dest");
+    const std::string outside = tmp_.file("outside");
     const fs::path previous_cwd_ = fs::current_path();
     int archives_ = 0;
-
-    static inline QCoreApplication* app_ = nullptr;
-    static inline QTemporaryDir log_dir_;
-    static inline const std::string log_path_ = log_dir_.filePath("launcher.log").toStdString();
 };
 
 // One progress report per entry written; a ".." stops the extraction and
 // the entries before it stay on disk (cleaning up is the caller's business).
-TEST_F(ExtractorTest, ReportsEachEntryWrittenAndStopsAtADotDot)
+struct WrittenRow : dwtest::Row {
+    int format;
+    int filter;
+    std::vector<Entry> entries;
+    std::vector<int> percent;  // one dialog value per entry written; fewer than entries: refused
+};
+
+const std::vector<Entry> kBundle = {{Entry::Folder, "Contents", ""},
+                                    {Entry::File, "Contents/drift-ui", "\x7f" "ELF"},
+                                    {Entry::File, "Contents/Info.plist", "<plist/>\n"},
+                                    {Entry::Symlink, "Contents/current", "drift-ui"}};
+const std::vector<int> kQuarters = {25, 50, 75, 100};
+const WrittenRow kWrittenRows[] = {
+    {"tar", kPax, ARCHIVE_FILTER_NONE, kBundle, kQuarters},
+    {"tar_gz", kPax, ARCHIVE_FILTER_GZIP, kBundle, kQuarters},
+    {"tar_zst", kPax, ARCHIVE_FILTER_ZSTD, kBundle, kQuarters},
+    {"zip", ARCHIVE_FORMAT_ZIP, ARCHIVE_FILTER_NONE, kBundle, kQuarters},
+    {"seven_entries", kPax, ARCHIVE_FILTER_NONE,
+     {{Entry::File, "1", "a"}, {Entry::File, "2", "b"}, {Entry::File, "3", "c"}, {Entry::File, "4", "d"},
+      {Entry::File, "5", "e"}, {Entry::File, "6", "f"}, {Entry::File, "7", "g"}},
+     {14, 28, 42, 57, 71, 85, 100}},
+    {"dotdot_entry", kPax, ARCHIVE_FILTER_NONE,
+     {{Entry::File, "a", "1"}, {Entry::File, "b", "2"}, {Entry::File, "../outside/b", "3"}, {Entry::File, "c", "4"}},
+     {25, 50}},
+    {"dotdot_hard_link_target", kPax, ARCHIVE_FILTER_NONE,
+     {{Entry::File, "a", "package"}, {Entry::Hardlink, "h", "../outside/a"}}, {50}},
+};
+
+class ExtractorWrites : public ExtractorTest, public testing::WithParamInterface<WrittenRow> {};
+
+TEST_P(ExtractorWrites, ReportsEachEntryWrittenAndStopsAtADotDot)
 {
-    const std::vector<Entry> bundle = {{Entry::Folder, "Contents", ""},
-                                       {Entry::File, "Contents/drift-ui", "\x7f" "ELF"},
-                                       {Entry::File, "Contents/Info.plist", "<plist/>\n"},
-                                       {Entry::Symlink, "Contents/current", "drift-ui"}};
-    const std::vector<int> quarters = {25, 50, 75, 100};
-    const struct {
-        const char* name;
-        int format;
-        int filter;
-        std::vector<Entry> entries;
-        std::vector<int> percent;  // one dialog value per entry written; fewer than entries: refused
-    } rows[] = {
-        {"tar", kPax, ARCHIVE_FILTER_NONE, bundle, quarters},
-        {"tar_gz", kPax, ARCHIVE_FILTER_GZIP, bundle, quarters},
-        {"tar_zst", kPax, ARCHIVE_FILTER_ZSTD, bundle, quarters},
-        {"zip", ARCHIVE_FORMAT_ZIP, ARCHIVE_FILTER_NONE, bundle, quarters},
-        {"seven_entries", kPax, ARCHIVE_FILTER_NONE,
-         {{Entry::File, "1", "a"}, {Entry::File, "2", "b"}, {Entry::File, "3", "c"}, {Entry::File, "4", "d"},
-          {Entry::File, "5", "e"}, {Entry::File, "6", "f"}, {Entry::File, "7", "g"}},
-         {14, 28, 42, 57, 71, 85, 100}},
-        {"dotdot_entry", kPax, ARCHIVE_FILTER_NONE,
-         {{Entry::File, "a", "1"}, {Entry::File, "b", "2"}, {Entry::File, "../outside/b", "3"},
-          {Entry::File, "c", "4"}},
-         {25, 50}},
-        {"dotdot_hard_link_target", kPax, ARCHIVE_FILTER_NONE,
-         {{Entry::File, "a", "package"}, {Entry::Hardlink, "h", "../outside/a"}}, {50}},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        fs::remove_all(dest);
-        fs::create_directory(dest);
-        const std::string archive = make(row.entries, row.format, row.filter);
-        const Outcome out = run(archive, dest);
-        const size_t written = row.percent.size();
-        EXPECT_EQ(out.result, written < row.entries.size() ? -1 : 0);
-        EXPECT_EQ(out.texts, std::vector<QString>{kInitializing});
-        Pairs progress;
-        for (size_t done = 1; done <= written; ++done)
-            progress.emplace_back(static_cast<int>(row.entries.size()), static_cast<int>(done));
-        EXPECT_EQ(out.progress, progress);
-        EXPECT_EQ(out.percent, row.percent);
-        Lines log = {started(archive, dest)};
-        if (written < row.entries.size())
-            log.push_back("[ERROR] extractor(#): archive_read_extract2 failed: 'Path contains '..''");
-        EXPECT_EQ(out.log, log);
-        Tree expected;
-        for (size_t i = 0; i < written; ++i) {
-            const Entry& e = row.entries[i];
-            expected[e.name] = e.kind == Entry::Folder ? "dir" : (e.kind == Entry::File ? "file:" : "link:") + e.data;
-        }
-        EXPECT_EQ(tree(dest), expected);
-    }
+    const WrittenRow& row = GetParam();
+    const std::string archive = make(row.entries, row.format, row.filter);
+    const Outcome out = run(archive, dest);
+    const size_t written = row.percent.size();
+    EXPECT_EQ(out.result, written < row.entries.size() ? -1 : 0);
+    EXPECT_EQ(out.texts, std::vector<QString>{kInitializing});
+    Pairs progress;
+    for (size_t done = 1; done <= written; ++done)
+        progress.emplace_back(static_cast<int>(row.entries.size()), static_cast<int>(done));
+    EXPECT_EQ(out.progress, progress);
+    EXPECT_EQ(out.percent, row.percent);
+    Lines log = {started(archive, dest)};
+    if (written < row.entries.size())
+        log.push_back("[ERROR] extractor(#): archive_read_extract2 failed: 'Path contains '..''");
+    EXPECT_EQ(out.log, log);
+    EXPECT_EQ(Snapshot(dest), dwtest::TreeOf({row.entries.begin(), row.entries.begin() + written}));
 }
+
+INSTANTIATE_TEST_SUITE_P(Packages, ExtractorWrites, testing::ValuesIn(kWrittenRows), dwtest::RowName());
 
 // A compressed package is counted on a thread of its own while the entries
 // are written. The pairs still come in order, one per entry written, those
 // written before the total was known included; a failure is told after them.
 // A package cut short is counted up to the entry it breaks off in.
-TEST_F(ExtractorTest, CountsBesideTheExtraction)
+struct CountRow : dwtest::Row {
+    int filter;
+    bool dotdot;  // a ".." entry second
+    int total;
+    int written;
+    long long cut;  // the package cut to this size; 0: whole
+    Lines errors;
+};
+
+const int kMany = 302;
+const std::string kCutShort = "[ERROR] extractor(#): archive_read_extract2, read handle: 'Truncated ";
+const std::string kExtract2 = "[ERROR] extractor(#): archive_read_extract2 failed: ''";
+const CountRow kCountRows[] = {
+    {"tar_zst", ARCHIVE_FILTER_ZSTD, false, kMany, kMany, 0, {}},
+    {"tar_gz", ARCHIVE_FILTER_GZIP, false, kMany, kMany, 0, {}},
+    {"dotdot_tar_zst", ARCHIVE_FILTER_ZSTD, true, kMany + 1, 1, 0,
+     {"[ERROR] extractor(#): archive_read_extract2 failed: 'Path contains '..''"}},
+    {"truncated_tar", ARCHIVE_FILTER_NONE, false, 2, 1, 4 << 20, {kExtract2, kCutShort + "tar archive'"}},
+    {"truncated_tar_zst", ARCHIVE_FILTER_ZSTD, false, 2, 1, 4 << 20, {kExtract2, kCutShort + "zstd input'"}},
+};
+
+class ExtractorCounts : public ExtractorTest, public testing::WithParamInterface<CountRow> {};
+
+TEST_P(ExtractorCounts, CountsBesideTheExtraction)
 {
+    const CountRow& row = GetParam();
     // Enough data that the count is still going when the first entry is written.
     std::mt19937 random(7);
     std::string bulk(8 << 20, '\0');
     for (char& c : bulk)
         c = static_cast<char>(random());
-    std::vector<Entry> many = {{Entry::File, "first", "1"}, {Entry::File, "bulk", bulk}};
-    for (int i = 0; i < 300; ++i)
-        many.push_back({Entry::File, "f" + std::to_string(i), std::to_string(i)});
-    std::vector<Entry> dotdot = many;
-    dotdot.insert(dotdot.begin() + 1, {Entry::File, "../outside/a", "x"});
-    const int n = static_cast<int>(many.size());
-    const std::string extract2 = "[ERROR] extractor(#): archive_read_extract2 failed: ''";
-    const std::string cut_short = "[ERROR] extractor(#): archive_read_extract2, read handle: 'Truncated ";
-    const struct {
-        const char* name;
-        int filter;
-        std::vector<Entry> entries;
-        int total;
-        int written;
-        std::streamoff cut;  // the package cut to this size; 0: whole
-        Lines errors;
-    } rows[] = {
-        {"tar_zst", ARCHIVE_FILTER_ZSTD, many, n, n, 0, {}},
-        {"tar_gz", ARCHIVE_FILTER_GZIP, many, n, n, 0, {}},
-        {"dotdot_tar_zst", ARCHIVE_FILTER_ZSTD, dotdot, n + 1, 1, 0,
-         {"[ERROR] extractor(#): archive_read_extract2 failed: 'Path contains '..''"}},
-        {"truncated_tar", ARCHIVE_FILTER_NONE, many, 2, 1, 4 << 20, {extract2, cut_short + "tar archive'"}},
-        {"truncated_tar_zst", ARCHIVE_FILTER_ZSTD, many, 2, 1, 4 << 20, {extract2, cut_short + "zstd input'"}},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        fs::remove_all(dest);
-        fs::create_directory(dest);
-        const std::string archive = make(row.entries, kPax, row.filter);
-        if (row.cut > 0)
-            fs::resize_file(archive, static_cast<uintmax_t>(row.cut));
-        const Outcome out = run(archive, dest);
-        EXPECT_EQ(out.result, row.errors.empty() ? 0 : -1);
-        Pairs progress;
-        for (int done = 1; done <= row.written; ++done)
-            progress.emplace_back(row.total, done);
-        EXPECT_EQ(out.progress, progress);
-        Lines log = {started(archive, dest)};
-        log.insert(log.end(), row.errors.begin(), row.errors.end());
-        EXPECT_EQ(out.log, log);
-        // The entry cut short stays as far as it was written.
-        EXPECT_EQ(tree(dest).size(), static_cast<size_t>(row.written + (row.cut > 0)));
-        EXPECT_EQ(read_file(dest + "/first"), "1");
-    }
+    std::vector<Entry> entries = {{Entry::File, "first", "1"}, {Entry::File, "bulk", bulk}};
+    for (int i = 0; i < kMany - 2; ++i)
+        entries.push_back({Entry::File, "f" + std::to_string(i), std::to_string(i)});
+    if (row.dotdot)
+        entries.insert(entries.begin() + 1, {Entry::File, "../outside/a", "x"});
+    const std::string archive = make(entries, kPax, row.filter);
+    if (row.cut > 0)
+        fs::resize_file(archive, static_cast<uintmax_t>(row.cut));
+    const Outcome out = run(archive, dest);
+    EXPECT_EQ(out.result, row.errors.empty() ? 0 : -1);
+    Pairs progress;
+    for (int done = 1; done <= row.written; ++done)
+        progress.emplace_back(row.total, done);
+    EXPECT_EQ(out.progress, progress);
+    Lines log = {started(archive, dest)};
+    log.insert(log.end(), row.errors.begin(), row.errors.end());
+    EXPECT_EQ(out.log, log);
+    // The entry cut short stays as far as it was written.
+    EXPECT_EQ(Snapshot(dest).size(), static_cast<size_t>(row.written + (row.cut > 0)));
+    EXPECT_EQ(dwtest::ReadFile(dest + "/first"), "1");
 }
+
+INSTANTIATE_TEST_SUITE_P(Packages, ExtractorCounts, testing::ValuesIn(kCountRows), dwtest::RowName());
 
 TEST_F(ExtractorTest, FailsBeforeWritingAnything)
 {
     const std::string empty = make({});
-    const std::string missing = path("missing.tpk");
+    const std::string missing = tmp_.file("missing.tpk");
     // The manifest's entry names the decoy "a" of the working directory.
     const std::string mtree = make({{Entry::File, "a", "working directory"}}, ARCHIVE_FORMAT_MTREE);
     // Names that stand for the destination folder itself.
@@ -333,7 +268,7 @@ TEST_F(ExtractorTest, FailsBeforeWritingAnything)
     const std::string empty_zst = make({}, kPax, ARCHIVE_FILTER_ZSTD);
     // The first header reads with a warning (a damaged pax record) in both
     // passes: the count's 0 is told, not the extraction's failed header.
-    std::string pax = read_file(make({{Entry::File, std::string(150, 'n'), "x"}}));
+    std::string pax = dwtest::ReadFile(make({{Entry::File, std::string(150, 'n'), "x"}}));
     pax.replace(512, 3, "999");
     const std::string damaged_zst = make({{Entry::File, "raw", pax}}, ARCHIVE_FORMAT_RAW, ARCHIVE_FILTER_ZSTD);
     const std::string itself = "[ERROR] extractor(#): entry '";
@@ -372,19 +307,18 @@ TEST_F(ExtractorTest, FailsBeforeWritingAnything)
         EXPECT_TRUE(out.progress.empty());
         EXPECT_EQ(out.log, row.log);
         EXPECT_TRUE(fs::is_directory(fs::symlink_status(dest)));
-        EXPECT_TRUE(tree(dest).empty());
+        EXPECT_TRUE(Snapshot(dest).empty());
     }
 }
 
 TEST_F(ExtractorTest, ReplacesFilesKeepsFoldersAndWritesNothingOutside)
 {
     // The destination is reached through a symlink, which must stay one.
-    const std::string via = path("via");
+    const std::string via = tmp_.file("via");
     fs::create_directory_symlink(dest, via);
     // dest/f shares its inode with the decoy: replacing must unlink, not overwrite.
     fs::create_hard_link(outside + "/a", dest + "/f");
-    fs::create_directory(dest + "/dir");
-    write_file(dest + "/dir/keep", "kept");
+    dwtest::WriteFile(dest + "/dir/keep", "kept");
     // "lnk" is replaced by a folder rather than followed; the hard link's
     // target "a", left as stored, would be the decoy in the working directory.
     const Outcome out = run(make({{Entry::Folder, "./", ""},
@@ -399,9 +333,9 @@ TEST_F(ExtractorTest, ReplacesFilesKeepsFoldersAndWritesNothingOutside)
                             via);
     EXPECT_EQ(out.result, 0);
     EXPECT_TRUE(fs::is_symlink(via));
-    EXPECT_EQ(tree(dest), (Tree{{"dir", "dir"}, {"dir/keep", "file:kept"}, {"dir/new", "file:n"}, {"f", "file:new"},
-                                {"lnk", "dir"}, {"lnk/file", "file:x"}, {"abs", "dir"}, {"abs/y", "file:y"},
-                                {"a", "file:package"}, {"sub", "dir"}, {"sub/h", "file:package"}}));
+    EXPECT_EQ(Snapshot(dest), (Tree{{"dir", "<dir>"}, {"dir/keep", "kept"}, {"dir/new", "n"}, {"f", "new"},
+                                    {"lnk", "<dir>"}, {"lnk/file", "x"}, {"abs", "<dir>"}, {"abs/y", "y"},
+                                    {"a", "package"}, {"sub", "<dir>"}, {"sub/h", "package"}}));
     EXPECT_TRUE(fs::equivalent(dest + "/a", dest + "/sub/h"));
 }
 

@@ -7,7 +7,6 @@
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
-#include <QSettings>
 
 #include "launcher_testkit.h"
 
@@ -19,13 +18,12 @@ TEST(LauncherFlow, InstallsOnFirstStartAndLaterOnlyStartsTheClient)
 {
     TestBundle b;
     ASSERT_TRUE(b.ok());
-    const QList<PackageEntry> package = ClientPackage(3, 2);
+    const Package package = ClientPackage(3, 2);
     ASSERT_TRUE(b.setBuild(3, package));
 
     const RunResult first = b.run();
     ASSERT_TRUE(first.exited_with_zero) << qPrintable(first.err);
-    for (const PackageEntry& e : package)
-        EXPECT_EQ(e.data, FileTree(b.userApp()).value(e.path)) << qPrintable(e.path);
+    EXPECT_EQ(dwtest::TreeOf(package), dwtest::Snapshot(b.userApp()));
     const QString log = b.log();
     EXPECT_EQ(1, LinesWith(log, kShowDialog).size()) << qPrintable(log);
     // Four entries; the worker's own 100 after a successful upgrade changes
@@ -39,7 +37,7 @@ TEST(LauncherFlow, InstallsOnFirstStartAndLaterOnlyStartsTheClient)
     // The client is gone, its pid file stale: nothing to upgrade, so no dialog,
     // but the client starts again and the aged folder goes anyway. Started as
     // ./launcher from its own folder, the plug-in folder is relative.
-    const int pid = QSettings(b.userDir() + "/ui.pid", QSettings::IniFormat).value("pid").toInt();
+    const pid_t pid = static_cast<pid_t>(b.clientPid());
     ASSERT_GT(pid, 0);
     ASSERT_EQ(0, kill(pid, SIGTERM));
     ASSERT_TRUE(b.waitForClientEvent("term 3"));
@@ -58,15 +56,13 @@ TEST(LauncherFlow, DamagedPackageRollsBackThenAGoodOneUpgrades)
 {
     TestBundle b;
     ASSERT_TRUE(b.ok());
-    ASSERT_TRUE(b.setBuild(1, ClientPackage(1, 1)));
-    ASSERT_TRUE(b.run().exited_with_zero);
-    ASSERT_TRUE(b.waitForClientEvent("start 1"));
-    const QMap<QString, QByteArray> installed = FileTree(b.userApp());
+    ASSERT_TRUE(b.install(1, ClientPackage(1, 1)));
+    const dwtest::Tree installed = dwtest::Snapshot(b.userApp());
 
     // Build 2, cut inside a large entry: the new client is already on disk
     // when extraction fails, so only a real rollback brings back the old one.
-    QList<PackageEntry> damaged = ClientPackage(2);
-    damaged.insert(1, {"Contents/Resources/large.bin", QByteArray(256 * 1024, 'x'), 0644});
+    Package damaged = ClientPackage(2);
+    damaged.insert(damaged.begin() + 1, {dwtest::Entry::File, "Contents/Resources/large.bin", std::string(256 * 1024, 'x')});
     ASSERT_TRUE(b.setBuild(2, damaged));
     ASSERT_TRUE(QFile(b.package()).resize(64 * 1024));
     ASSERT_TRUE(QDir().mkpath(b.userDir() + "/app/old"));
@@ -76,7 +72,7 @@ TEST(LauncherFlow, DamagedPackageRollsBackThenAGoodOneUpgrades)
     const QString log = b.log().mid(offset);
     EXPECT_EQ(1, LinesWith(log, "[ERROR] launcher(").filter("Failed to upgrade package").size())
         << qPrintable(log);
-    EXPECT_EQ(installed, FileTree(b.userApp()));
+    EXPECT_EQ(installed, dwtest::Snapshot(b.userApp()));
     EXPECT_FALSE(QDir(b.userApp() + "_tmp").exists());
     EXPECT_FALSE(QDir(b.userDir() + "/app").exists());  // on the failure path too
     EXPECT_TRUE(b.waitForClientEvent("term 1"));
@@ -85,7 +81,7 @@ TEST(LauncherFlow, DamagedPackageRollsBackThenAGoodOneUpgrades)
     ASSERT_TRUE(b.setBuild(2, ClientPackage(2, 1)));
     const RunResult upgraded = b.run();
     ASSERT_TRUE(upgraded.exited_with_zero) << qPrintable(upgraded.err);
-    EXPECT_EQ(InfoRecord(2), FileTree(b.userApp()).value("Contents/Resources/INFO"));
+    EXPECT_EQ(InfoRecord(2), dwtest::ReadFile(b.userApp() + "/Contents/Resources/INFO"));
     EXPECT_FALSE(QDir(b.userApp() + "_tmp").exists());
     EXPECT_TRUE(b.waitForClientEvent("term 1", 2));
     EXPECT_TRUE(b.waitForClientEvent("start 2"));

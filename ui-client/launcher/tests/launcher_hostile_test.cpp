@@ -18,11 +18,14 @@
 
 namespace {
 
+using dwtest::Snapshot;
+using dwtest::WriteFile;
+
 // Build 2 cut off inside a large entry: the upgrade starts, then fails.
 bool TruncatedUpgrade(TestBundle& b)
 {
-    QList<PackageEntry> package = ClientPackage(2);
-    package.insert(1, {"Contents/Resources/large.bin", QByteArray(256 * 1024, 'x'), 0644});
+    Package package = ClientPackage(2);
+    package.insert(package.begin() + 1, {dwtest::Entry::File, "Contents/Resources/large.bin", std::string(256 * 1024, 'x')});
     return b.setBuild(2, package) && QFile(b.package()).resize(64 * 1024);
 }
 
@@ -34,12 +37,9 @@ bool MakeFolder(const QString& path)
 
 // Installed client of build 1, stopped, so that the run under test must
 // start it again. The previous client as installed.
-QMap<QString, QByteArray> InstallAndStop(TestBundle& b)
+dwtest::Tree InstallAndStop(TestBundle& b)
 {
-    if (!b.setBuild(1, ClientPackage(1, 2)) || !b.run().exited_with_zero || !b.waitForClientEvent("start 1")
-        || !b.stopClient(1))
-        return {};
-    return FileTree(b.userApp());
+    return b.install(1, ClientPackage(1, 2)) && b.stopClient(1) ? Snapshot(b.userApp()) : dwtest::Tree();
 }
 
 struct HostileCase {
@@ -62,8 +62,8 @@ const HostileCase kCases[] = {
     {"truncated_package", "home", TruncatedUpgrade, "read handle: 'Truncated tar archive'", nullptr},
     {"dotdot_entry", "home",
      [](TestBundle& b) {
-         QList<PackageEntry> package = ClientPackage(2);
-         package.insert(1, {"../escaped", "out of the bundle\n", 0644});
+         Package package = ClientPackage(2);
+         package.insert(package.begin() + 1, {dwtest::Entry::File, "../escaped", "out of the bundle\n"});
          return b.setBuild(2, package);
      },
      "Path contains '..'", nullptr},
@@ -75,24 +75,24 @@ const HostileCase kCases[] = {
      [](TestBundle& b) { return MakeFolder(b.bundle() + "/Contents/Resources/INFO"); }, "Resources/INFO", nullptr},
     {"bundle_record_malformed", "home",
      [](TestBundle& b) {
-         return b.put(b.bundle() + "/Contents/Resources/INFO", "\x01\xff[Version\nbuild_version\n=\"2");
+         return WriteFile(b.bundle() + "/Contents/Resources/INFO", "\x01\xff[Version\nbuild_version\n=\"2");
      },
      "Resources/INFO", nullptr},
     {"user_record_unreadable", "home",
      [](TestBundle& b) { return MakeFolder(b.userApp() + "/Contents/Resources/INFO"); },
      "removing incomplete copy", nullptr},
     {"user_record_malformed", "home",
-     [](TestBundle& b) { return b.put(b.userApp() + "/Contents/Resources/INFO", "[Version\n\xfe\xff=="); },
+     [](TestBundle& b) { return WriteFile(b.userApp() + "/Contents/Resources/INFO", "[Version\n\xfe\xff=="); },
      "removing incomplete copy", nullptr},
     // Read when the upgrade stops the client; -1 would signal every process.
     {"pid_file_negative", "home",
-     [](TestBundle& b) { return b.put(b.userDir() + "/ui.pid", "pid=-1\n") && TruncatedUpgrade(b); },
+     [](TestBundle& b) { return WriteFile(b.userDir() + "/ui.pid", "pid=-1\n") && TruncatedUpgrade(b); },
      "ui.pid", nullptr},
     {"pid_file_junk", "home",
-     [](TestBundle& b) { return b.put(b.userDir() + "/ui.pid", "\x89PNG\r\n\x1a\npid=1\n") && TruncatedUpgrade(b); },
+     [](TestBundle& b) { return WriteFile(b.userDir() + "/ui.pid", "\x89PNG\r\n\x1a\npid=1\n") && TruncatedUpgrade(b); },
      "ui.pid", nullptr},
     {"level_file_junk", "home",
-     [](TestBundle& b) { return b.put(b.bundle() + "/log/launcher.debug", "\x7f" "ELF\x02\x01 = \n[x]\n"); },
+     [](TestBundle& b) { return WriteFile(b.bundle() + "/log/launcher.debug", "\x7f" "ELF\x02\x01 = \n[x]\n"); },
      "launcher.debug' is malformed", nullptr},
     {"home_nfc_with_blanks", kNfc, TruncatedUpgrade, "Failed to upgrade package", nullptr},
     {"home_nfd_with_blanks", kNfd, TruncatedUpgrade, "Failed to upgrade package", nullptr},
@@ -105,14 +105,14 @@ TEST_P(LauncherHostile, KeepsThePreviousClientAndSaysWhy)
     const HostileCase& c = GetParam();
     TestBundle b(QString::fromUtf8(c.home));
     ASSERT_TRUE(b.ok());
-    const QMap<QString, QByteArray> installed = InstallAndStop(b);
-    ASSERT_EQ(4, installed.size()) << qPrintable(b.log());
+    const dwtest::Tree installed = InstallAndStop(b);
+    ASSERT_EQ(dwtest::TreeOf(ClientPackage(1, 2)), installed) << qPrintable(b.log());
     ASSERT_TRUE(c.damage(b));
 
     const int offset = b.log().size();
     const RunResult r = b.run();
     EXPECT_TRUE(r.exited_with_zero) << qPrintable(r.err);
-    EXPECT_EQ(installed, FileTree(b.userApp()));
+    EXPECT_EQ(installed, Snapshot(b.userApp()));
     EXPECT_FALSE(QFileInfo::exists(b.userApp() + "_tmp"));
     EXPECT_FALSE(QFileInfo::exists(b.userDir() + "/escaped"));
     EXPECT_TRUE(b.waitForClientEvent("start 1", 2));
@@ -130,7 +130,7 @@ TEST(LauncherLimits, HundredThousandEntriesInstallCompletely)
 {
     TestBundle b;
     ASSERT_TRUE(b.ok());
-    const QList<PackageEntry> package = ClientPackage(1, 100000 - 2);
+    const Package package = ClientPackage(1, 100000 - 2);
     ASSERT_TRUE(b.setBuild(1, package));
     QElapsedTimer timer;
     timer.start();
@@ -142,10 +142,7 @@ TEST(LauncherLimits, HundredThousandEntriesInstallCompletely)
     EXPECT_LE(progress.size(), 101);
     ASSERT_FALSE(progress.isEmpty());
     EXPECT_TRUE(progress.last().endsWith("): progress 100")) << qPrintable(progress.last());
-    const QMap<QString, QByteArray> tree = FileTree(b.userApp());
-    EXPECT_EQ(package.size(), tree.size());
-    for (const PackageEntry& e : package)
-        ASSERT_TRUE(e.data == tree.value(e.path)) << qPrintable(e.path);
+    EXPECT_TRUE(dwtest::TreeOf(package) == Snapshot(b.userApp())) << "not the package's tree";
     EXPECT_TRUE(b.waitForClientEvent("start 1"));
 }
 
@@ -175,7 +172,7 @@ public:
         const QString script = b_.home() + "/../limited.sh";
         const QByteArray text = "#!/bin/sh\ntrap '' XFSZ\nexec prlimit --fsize=8388608 \""
                                 + QFile::encodeName(b_.executable()) + "\"\n";
-        if (!TestBundle::put(script, text)
+        if (!WriteFile(script, text)
             || !QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner))
             return {};
         return b_.run(b_.environment(), script);
@@ -195,20 +192,21 @@ TEST(LauncherLimits, OutOfSpaceRollsBackByteForByte)
     ASSERT_TRUE(b.setBuild(1, ClientPackage(1, 2)));
     ASSERT_TRUE(home.run().exited_with_zero);
     ASSERT_TRUE(b.waitForClientEvent("start 1"));
-    const QMap<QString, QByteArray> installed = FileTree(b.userApp());
+    const dwtest::Tree installed = Snapshot(b.userApp());
 
     // 12 MiB in files of 1 MiB, and one of 9 MiB for the file size limit.
-    QList<PackageEntry> package = ClientPackage(2);
+    Package package = ClientPackage(2);
     for (int i = 0; i < 12; ++i)
-        package.insert(1, {QString("Contents/Resources/part-%1.bin").arg(i), QByteArray(1 << 20, char('a' + i)), 0644});
-    package.insert(1, {"Contents/Resources/whole.bin", QByteArray(9 << 20, 'w'), 0644});
+        package.insert(package.begin() + 1, {dwtest::Entry::File, "Contents/Resources/part-" + std::to_string(i) + ".bin",
+                                             std::string(1 << 20, char('a' + i))});
+    package.insert(package.begin() + 1, {dwtest::Entry::File, "Contents/Resources/whole.bin", std::string(9 << 20, 'w')});
     ASSERT_TRUE(b.setBuild(2, package));
     const int offset = b.log().size();
     const RunResult r = home.run();
     EXPECT_TRUE(r.exited_with_zero) << qPrintable(r.err);
     const QString log = b.log().mid(offset);
     EXPECT_EQ(1, LinesWith(log, "Failed to upgrade package").size()) << qPrintable(log);
-    EXPECT_EQ(installed, FileTree(b.userApp()));
+    EXPECT_EQ(installed, Snapshot(b.userApp()));
     EXPECT_FALSE(QFileInfo::exists(b.userApp() + "_tmp"));
     EXPECT_TRUE(b.waitForClientEvent("term 1"));
     EXPECT_TRUE(b.waitForClientEvent("start 1", 2));

@@ -31,7 +31,7 @@ TEST(LauncherInstance, TwentyStartedAtOnceInstallExactlyOnce)
     }
     // All of them append to the same log.
     EXPECT_EQ(1, LinesWith(b.log(), "extract package:").size()) << qPrintable(b.log());
-    EXPECT_EQ(InfoRecord(4), FileTree(b.userApp()).value("Contents/Resources/INFO"));
+    EXPECT_EQ(InfoRecord(4), dwtest::ReadFile(b.userApp() + "/Contents/Resources/INFO"));
     EXPECT_TRUE(b.waitForClientEvent("start 4"));
 }
 
@@ -39,9 +39,7 @@ TEST(LauncherInstance, LockOfAKilledLauncherIsTakenOver)
 {
     TestBundle b;
     ASSERT_TRUE(b.ok());
-    ASSERT_TRUE(b.setBuild(1, ClientPackage(1, 0, ClientKind::IgnoresTerm)));
-    ASSERT_TRUE(b.run().exited_with_zero);
-    ASSERT_TRUE(b.waitForClientEvent("start 1"));
+    ASSERT_TRUE(b.install(1, ClientPackage(1, 0, ClientKind::IgnoresTerm)));
 
     // The installed client ignores SIGTERM, so the upgrade spends five seconds
     // stopping it, holding the lock all the while.

@@ -12,33 +12,9 @@
 #include <QThread>
 
 #include "launcher_testkit.h"
+#include "x_display.h"
 
 namespace {
-
-// An X server of our own. It picks a free display number itself and names it
-// through -displayfd once it accepts connections, so parallel tests cannot
-// race for one.
-struct Xvfb {
-    QProcess server;
-    QString display;
-
-    bool start()
-    {
-        server.setStandardErrorFile(QProcess::nullDevice());
-        server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1024x768x24", "-nolisten", "tcp"});
-        while (!server.canReadLine() && server.waitForReadyRead(kWaitTimeoutMs)) {
-        }
-        bool number = false;
-        const int n = QString::fromLatin1(server.readLine()).trimmed().toInt(&number);
-        display = QString(":%1").arg(n);
-        return number;
-    }
-    ~Xvfb()
-    {
-        server.terminate();
-        server.waitForFinished(kWaitTimeoutMs);
-    }
-};
 
 // Dark text on a light background.
 bool ShowsText(const QImage& image)
@@ -60,17 +36,16 @@ TEST(LauncherScreen, ProgressDialogIsSeenDuringAnUpgrade)
 {
     TestBundle b;
     ASSERT_TRUE(b.ok());
-    Xvfb x;
+    XDisplay x;
     ASSERT_TRUE(x.start()) << "Xvfb did not come up";
     // A client that ignores SIGTERM keeps the upgrade, and so the dialog, busy
     // for five seconds while it is being stopped.
-    ASSERT_TRUE(b.setBuild(1, ClientPackage(1, 0, ClientKind::IgnoresTerm)));
-    ASSERT_TRUE(b.run().exited_with_zero);
+    ASSERT_TRUE(b.install(1, ClientPackage(1, 0, ClientKind::IgnoresTerm)));
     ASSERT_TRUE(b.setBuild(2, ClientPackage(2)));
 
     QProcessEnvironment env = b.environment();
     env.remove("QT_QPA_PLATFORM");
-    env.insert("DISPLAY", x.display);
+    env.insert("DISPLAY", x.name());
     // No session bus here: libdbus would fork dbus-launch from a Qt thread,
     // and a fork while another thread holds the sanitizer's allocator lock
     // leaves the child hung. An address that refuses at once avoids the fork.
@@ -84,7 +59,7 @@ TEST(LauncherScreen, ProgressDialogIsSeenDuringAnUpgrade)
     // once mapped, the dialog may still be painting.
     ASSERT_TRUE(QDir().mkpath(DW_ARTIFACT_DIR));
     const QString shot = QString(DW_ARTIFACT_DIR) + "/progress_dialog.png";
-    const QStringList import = {"-display", x.display, "-window", "Talvane Driftwell", shot};
+    const QStringList import = {"-display", x.name(), "-window", "Talvane Driftwell", shot};
     QImage image;
     QElapsedTimer timer;
     timer.start();

@@ -2,26 +2,25 @@
 // bundle with a home folder of its own, packages made with libarchive's
 // writer, a shell-script client that records its starts and SIGTERMs, and
 // runs of the real launcher executable.
-#ifndef LAUNCHER_TESTKIT_H
-#define LAUNCHER_TESTKIT_H
+#ifndef DW_UI_CLIENT_LAUNCHER_TESTS_LAUNCHER_TESTKIT_H
+#define DW_UI_CLIENT_LAUNCHER_TESTS_LAUNCHER_TESTKIT_H
 
 #include <QByteArray>
 #include <QList>
-#include <QMap>
 #include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <vector>
+
+#include "test_files_qt.h"
+
 // Generous: a loaded 2-core machine running sanitised builds.
 const int kRunTimeoutMs = 180 * 1000;
 const int kWaitTimeoutMs = 60 * 1000;
 
-struct PackageEntry {
-    QString path;  // relative, e.g. "Contents/MacOS/drift-ui"
-    QByteArray data;
-    int mode;
-};
+using Package = std::vector<dwtest::Entry>;
 
 enum class ClientKind { ExitsOnTerm, IgnoresTerm };
 
@@ -32,8 +31,7 @@ QByteArray InfoRecord(int build);
 // client writes ~/.Driftwell/ui.pid and appends "start <build> <pid>" to
 // ~/.Driftwell/clients.log, and "term <build> <pid>" on SIGTERM (exiting or
 // not, as kind says). It ends by itself after ten minutes.
-QList<PackageEntry> ClientPackage(int build, int filler_count = 0,
-                                  ClientKind kind = ClientKind::ExitsOnTerm);
+Package ClientPackage(int build, int filler_count = 0, ClientKind kind = ClientKind::ExitsOnTerm);
 
 struct RunResult {
     bool exited_with_zero = false;  // not when it failed, crashed or did not end in time
@@ -59,12 +57,15 @@ public:
     QString userApp() const { return userDir() + "/Driftwell.app"; }
 
     // The bundle's own INFO and package.
-    bool setBuild(int build, const QList<PackageEntry>& package);
-    bool setPackage(const QList<PackageEntry>& package) const;
-    // Any file, with the folders on its way; whether all of data was written.
-    static bool put(const QString& path, const QByteArray& data);
+    bool setBuild(int build, const Package& package) const;
+    // That build installed by a run of the launcher, its client started.
+    bool install(int build, const Package& package) const;
+    // The pid in the client's pid file, 0 if none.
+    qint64 clientPid() const;
     // Stops the running client (SIGTERM through its pid file) and waits for it.
     bool stopClient(int build) const;
+    // The processes, zombies aside, whose command line names this test's folder.
+    QList<qint64> processes() const;
 
     // HOME, the offscreen platform and LANG=C; callers adjust.
     QProcessEnvironment environment() const;
@@ -87,7 +88,5 @@ inline QStringList LinesWith(const QString& text, const QString& needle)
 {
     return text.split('\n').filter(needle);
 }
-// Path -> content of every file below dir (relative paths).
-QMap<QString, QByteArray> FileTree(const QString& dir);
 
 #endif

@@ -2,128 +2,45 @@
 // Contents/MacOS, with HOME pointing into a fresh temporary folder; copies of
 // fake_client play the per-user drift-ui. Results come back as the driver's
 // output, the log file and what is on disk.
-#include <archive.h>
-#include <archive_entry.h>
 #include <ftw.h>
 #include <grp.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <algorithm>
-#include <cerrno>
+#include <cctype>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
-#include <fstream>
 #include <map>
 #include <sstream>
 #include <string>
 #include <thread>
 #include <vector>
 
-#include <QCryptographicHash>
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
+#include "named_rows.h"
+#include "test_files.h"
+
 namespace {
 
+using dwtest::Entry;
+using dwtest::Exists;
+using dwtest::ProcessGone;
+using dwtest::ReadFile;
+using dwtest::Snapshot;
+using dwtest::Tree;
+using dwtest::WaitFor;
+using dwtest::WriteFile;
 using Lines = std::vector<std::string>;
-// Relative path -> content; folders as "<dir>". Archives keep their order.
-using Tree = std::map<std::string, std::string>;
-using Entries = std::vector<std::pair<std::string, std::string>>;
 
 const uid_t kNobody = 65534;
-
-std::string ReadFile(const std::string& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream out;
-    out << in.rdbuf();
-    return out.str();
-}
-
-bool Exists(const std::string& path)
-{
-    return access(path.c_str(), F_OK) == 0;
-}
-
-void WriteFile(const std::string& path, const std::string& content, mode_t mode = 0644)
-{
-    ASSERT_TRUE(QDir().mkpath(QFileInfo(QString::fromStdString(path)).path()));
-    unlink(path.c_str());  // a running executable cannot be rewritten in place
-    std::ofstream(path, std::ios::binary | std::ios::trunc) << content;
-    ASSERT_EQ(chmod(path.c_str(), mode), 0) << path;
-}
-
-Tree Snapshot(const std::string& root)
-{
-    Tree tree;
-    QDirIterator it(QString::fromStdString(root),
-                    QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
-                    QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        const std::string path = it.next().toStdString();
-        const std::string data = it.fileInfo().isDir() ? "<dir>" : ReadFile(path);
-        // Binaries by their digest: a failure prints readable trees.
-        tree[path.substr(root.size() + 1)] =
-            data.size() < 256 ? data
-                              : QCryptographicHash::hash(QByteArray::fromStdString(data),
-                                                         QCryptographicHash::Sha1)
-                                    .toHex()
-                                    .toStdString();
-    }
-    return tree;
-}
-
-// cut_bytes > 0 drops that many bytes from the end, into an entry's data.
-void WriteArchive(const std::string& path, const Entries& entries, off_t cut_bytes = 0)
-{
-    ASSERT_TRUE(QDir().mkpath(QFileInfo(QString::fromStdString(path)).path()));
-    archive* a = archive_write_new();
-    archive_write_set_format_pax_restricted(a);
-    ASSERT_EQ(archive_write_open_filename(a, path.c_str()), ARCHIVE_OK);
-    for (const auto& [name, content] : entries) {
-        archive_entry* entry = archive_entry_new();
-        const bool dir = content == "<dir>";
-        archive_entry_set_pathname(entry, name.c_str());
-        archive_entry_set_filetype(entry, dir ? AE_IFDIR : AE_IFREG);
-        archive_entry_set_perm(entry, 0755);
-        archive_entry_set_size(entry, dir ? 0 : static_cast<la_int64_t>(content.size()));
-        ASSERT_EQ(archive_write_header(a, entry), ARCHIVE_OK);
-        if (!dir)
-            archive_write_data(a, content.data(), content.size());
-        archive_entry_free(entry);
-    }
-    archive_write_close(a);
-    archive_write_free(a);
-    const qint64 size = QFileInfo(QString::fromStdString(path)).size();
-    if (cut_bytes > 0) {
-        ASSERT_EQ(truncate(path.c_str(), size - cut_bytes), 0);
-    }
-}
-
-bool IsGone(pid_t pid)
-{
-    if (pid <= 0 || (kill(pid, 0) != 0 && errno == ESRCH))
-        return true;
-    // An orphan that ended may wait a moment for init to reap it.
-    const std::string stat = ReadFile("/proc/" + std::to_string(pid) + "/stat");
-    const size_t paren = stat.rfind(')');
-    return paren != std::string::npos && paren + 2 < stat.size() && stat[paren + 2] == 'Z';
-}
-
-template <typename Done>
-bool WaitFor(Done done)
-{
-    for (int i = 0; i < 600 && !done(); ++i)
-        std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    return done();
-}
 
 uid_t g_owner = kNobody;
 
@@ -170,9 +87,9 @@ protected:
                             "' does not exist, no need to terminate";
         extract_line_ =
             "[INFO] drift-service(N): extract package: '" + Package() + "' -> '" + app_ + "'";
-        WriteFile(bundle_ + "/Contents/MacOS/launcher", ReadFile(DW_SERVICE_DRIVER), 0755);
-        WriteFile(bundle_ + "/log/launcher.debug",
-                  "service_debug=7\nextractor_debug=7\nfile_op_debug=7\n");
+        ASSERT_TRUE(WriteFile(bundle_ + "/Contents/MacOS/launcher", ReadFile(DW_SERVICE_DRIVER), 0755));
+        ASSERT_TRUE(WriteFile(bundle_ + "/log/launcher.debug",
+                              "service_debug=7\nextractor_debug=7\nfile_op_debug=7\n"));
         ASSERT_TRUE(QDir().mkpath(QString::fromStdString(home_)));
         // For the driver and the clients.
         setenv("HOME", home_.c_str(), 1);
@@ -182,7 +99,7 @@ protected:
     void TearDown() override
     {
         for (pid_t pid : started_) {
-            if (!IsGone(pid))
+            if (!ProcessGone(pid))
                 kill(pid, SIGKILL);
         }
     }
@@ -225,13 +142,14 @@ protected:
         return "[ERROR] drift-service(N): failed to backup app from '" + app_ + "' -> '" + Bak(n) +
                "'";
     }
-    static Entries NewPackage()
+    // Every entry 0755, as the packer stores an installed bundle's executables.
+    static std::vector<Entry> NewPackage()
     {
-        return {{"Contents", "<dir>"},
-                {"Contents/MacOS", "<dir>"},
-                {"Contents/MacOS/drift-ui", "new ui"},
-                {"Contents/Resources", "<dir>"},
-                {"Contents/Resources/new.txt", "new"}};
+        return {{Entry::Folder, "Contents", "", 0755},
+                {Entry::Folder, "Contents/MacOS", "", 0755},
+                {Entry::File, "Contents/MacOS/drift-ui", "new ui", 0755},
+                {Entry::Folder, "Contents/Resources", "", 0755},
+                {Entry::File, "Contents/Resources/new.txt", "new", 0755}};
     }
 
     // An installed per-user copy of that build at app_ (or at another
@@ -242,18 +160,10 @@ protected:
         const std::string dir = at.empty() ? app_ : at;
         if (build == 0)
             return;
-        WriteFile(dir + "/Contents/MacOS/drift-ui", ReadFile(DW_FAKE_CLIENT), 0755);
-        WriteFile(dir + "/Contents/Resources/sub/deep.txt", "old " + at + std::to_string(build));
-        if (build > 0)
-            WriteFile(dir + "/Contents/Resources/INFO",
-                      "[Version]\nbuild_version=" + std::to_string(build) + "\n");
-    }
-
-    // Removes the per-user copy and every backup name.
-    void ClearCopies()
-    {
-        for (int i = -1; i <= 9; ++i)
-            QDir(QString::fromStdString(i < 0 ? app_ : Bak(i))).removeRecursively();
+        ASSERT_TRUE(WriteFile(dir + "/Contents/MacOS/drift-ui", ReadFile(DW_FAKE_CLIENT), 0755));
+        ASSERT_TRUE(WriteFile(dir + "/Contents/Resources/sub/deep.txt", "old " + at + std::to_string(build)));
+        ASSERT_TRUE(build < 0 || WriteFile(dir + "/Contents/Resources/INFO",
+                                  "[Version]\nbuild_version=" + std::to_string(build) + "\n"));
     }
 
     std::string Leftover(int n) const
@@ -298,83 +208,75 @@ protected:
 
 // ---- upgrade decision ----------------------------------------------------
 
-TEST_F(ServiceTest, DecidesOnBuildNumbersAndTheExecutable)
-{
-    const struct {
-        const char* name;
-        const char* target;  // bundle's INFO, nullptr: none
-        const char* source;  // per-user INFO, nullptr: none
-        bool executable;
-        bool need;
-        int source_number;  // as logged
-        int target_number;
-        Lines log;  // the whole service log, when given
-    } rows[] = {
-        {"first_installation", "[Version]\nbuild_version=5\n", nullptr, false, true, 0, 5,
-         {"[INFO] drift-service(N): target_version = (, , 5, )",
-          "[INFO] drift-service(N): source does not exist",
-          "[DEBUG] mac/mac-service(N): Source version: ('', '')",
-          "[DEBUG] mac/mac-service(N): Target version: ('5', '')",
-          "[DEBUG] mac/mac-service(N): source version = 0, target version = 5"}},
-        {"numbers_not_texts", "[Version]\nbuild_version=120\n", "[Version]\nbuild_version=1000\n",
-         true, false, 1000, 120, {}},
-        {"equal_builds_other_fields_differ",
-         "[Version]\nmajor_version=9\nbuild_version=7\nicon_overlay_version=3\n",
-         "[Version]\nmajor_version=1\nminor_version=2\nbuild_version=7\nicon_overlay_version=1\n",
-         true, false, 7, 7,
-         {"[INFO] drift-service(N): target_version = (9, , 7, 3)",
-          "[INFO] drift-service(N): source_version = (1, 2, 7, 1)",
-          "[DEBUG] mac/mac-service(N): Source version: ('7', '1')",
-          "[DEBUG] mac/mac-service(N): Target version: ('7', '3')",
-          "[DEBUG] mac/mac-service(N): source version = 7, target version = 7"}},
-        {"negative_source_empty_target", "[Version]\nmajor_version=1\n",
-         "[Version]\nbuild_version=-1\n", true, true, -1, 0, {}},
-        {"digits_then_letters", "[Version]\nbuild_version=1234abc\n",
-         "[Version]\nbuild_version=1233\n", true, true, 1233, 1234, {}},
-        {"leading_letter", "[Version]\nbuild_version=abc\n", "[Version]\nbuild_version=1\n", true,
-         false, 1, 0, {}},
-        {"executable_missing_older_bundle", "[Version]\nbuild_version=1\n",
-         "[Version]\nbuild_version=1000\n", false, true, 1000, 1, {}},
-        {"keys_outside_the_group", "build_version=99\n[Other]\nbuild_version=98\n",
-         "[Version]\nbuild_version=10\n", true, false, 10, 0, {}},
-        {"no_bundle_record", nullptr, "[Version]\nbuild_version=10\n", true, false, 10, 0, {}},
-        {"copy_without_record", "[Version]\nbuild_version=0\n", nullptr, true, true, 0, 0, {}},
-    };
-    // Without a build of its own the bundle upgrades nothing: worth a warning.
-    const std::map<std::string, std::string> bundle_problems = {
-        {"negative_source_empty_target", "has no build number"},
-        {"digits_then_letters", "has a build number that is not a number"},
-        {"leading_letter", "has a build number that is not a number"},
-        {"keys_outside_the_group", "has no build number"},
-        {"no_bundle_record", "cannot be read"},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        QDir(QString::fromStdString(app_)).removeRecursively();
-        unlink((bundle_ + "/Contents/Resources/INFO").c_str());
-        if (row.target != nullptr)
-            WriteFile(bundle_ + "/Contents/Resources/INFO", row.target);
-        if (row.source != nullptr)
-            WriteFile(app_ + "/Contents/Resources/INFO", row.source);
-        if (row.executable)
-            WriteFile(app_ + "/Contents/MacOS/drift-ui", "#!/bin/sh\n", 0755);
+struct DecideRow : dwtest::Row {
+    const char* target;  // bundle's INFO, nullptr: none
+    const char* source;  // per-user INFO, nullptr: none
+    bool executable;
+    bool need;
+    int source_number;  // as logged
+    int target_number;
+    Lines log;            // the whole service log, when given
+    const char* problem;  // with the bundle's record: without a build of its own it upgrades nothing
+};
 
-        EXPECT_EQ(Run({"decide"}), row.need ? "1" : "0");
-        const Lines log = ServiceLog();
-        const std::string decision = "[DEBUG] mac/mac-service(N): source version = " +
-                                     std::to_string(row.source_number) + ", target version = " +
-                                     std::to_string(row.target_number);
-        EXPECT_NE(std::find(log.begin(), log.end(), decision), log.end());
-        if (!row.log.empty()) {
-            EXPECT_EQ(log, row.log);
-        }
-        const auto problem = bundle_problems.find(row.name);
-        EXPECT_EQ(Warnings(), problem == bundle_problems.end()
-                                  ? Lines{}
-                                  : Lines{"[WARNING] drift-service(N): bundle version record '" +
-                                          bundle_ + "/Contents/Resources/INFO' " + problem->second});
+const DecideRow kDecideRows[] = {
+    {"first_installation", "[Version]\nbuild_version=5\n", nullptr, false, true, 0, 5,
+     {"[INFO] drift-service(N): target_version = (, , 5, )",
+      "[INFO] drift-service(N): source does not exist",
+      "[DEBUG] mac/mac-service(N): Source version: ('', '')",
+      "[DEBUG] mac/mac-service(N): Target version: ('5', '')",
+      "[DEBUG] mac/mac-service(N): source version = 0, target version = 5"},
+     nullptr},
+    {"numbers_not_texts", "[Version]\nbuild_version=120\n", "[Version]\nbuild_version=1000\n", true, false,
+     1000, 120, {}, nullptr},
+    {"equal_builds_other_fields_differ",
+     "[Version]\nmajor_version=9\nbuild_version=7\nicon_overlay_version=3\n",
+     "[Version]\nmajor_version=1\nminor_version=2\nbuild_version=7\nicon_overlay_version=1\n", true, false, 7, 7,
+     {"[INFO] drift-service(N): target_version = (9, , 7, 3)",
+      "[INFO] drift-service(N): source_version = (1, 2, 7, 1)",
+      "[DEBUG] mac/mac-service(N): Source version: ('7', '1')",
+      "[DEBUG] mac/mac-service(N): Target version: ('7', '3')",
+      "[DEBUG] mac/mac-service(N): source version = 7, target version = 7"},
+     nullptr},
+    {"negative_source_empty_target", "[Version]\nmajor_version=1\n", "[Version]\nbuild_version=-1\n", true,
+     true, -1, 0, {}, "has no build number"},
+    {"digits_then_letters", "[Version]\nbuild_version=1234abc\n", "[Version]\nbuild_version=1233\n", true,
+     true, 1233, 1234, {}, "has a build number that is not a number"},
+    {"leading_letter", "[Version]\nbuild_version=abc\n", "[Version]\nbuild_version=1\n", true, false, 1, 0,
+     {}, "has a build number that is not a number"},
+    {"executable_missing_older_bundle", "[Version]\nbuild_version=1\n", "[Version]\nbuild_version=1000\n",
+     false, true, 1000, 1, {}, nullptr},
+    {"keys_outside_the_group", "build_version=99\n[Other]\nbuild_version=98\n",
+     "[Version]\nbuild_version=10\n", true, false, 10, 0, {}, "has no build number"},
+    {"no_bundle_record", nullptr, "[Version]\nbuild_version=10\n", true, false, 10, 0, {}, "cannot be read"},
+    {"copy_without_record", "[Version]\nbuild_version=0\n", nullptr, true, true, 0, 0, {}, nullptr},
+};
+
+class ServiceDecides : public ServiceTest, public testing::WithParamInterface<DecideRow> {};
+
+TEST_P(ServiceDecides, OnBuildNumbersAndTheExecutable)
+{
+    const DecideRow& row = GetParam();
+    ASSERT_TRUE(row.target == nullptr || WriteFile(bundle_ + "/Contents/Resources/INFO", row.target));
+    ASSERT_TRUE(row.source == nullptr || WriteFile(app_ + "/Contents/Resources/INFO", row.source));
+    ASSERT_TRUE(!row.executable || WriteFile(app_ + "/Contents/MacOS/drift-ui", "#!/bin/sh\n", 0755));
+
+    EXPECT_EQ(Run({"decide"}), row.need ? "1" : "0");
+    const Lines log = ServiceLog();
+    const std::string decision = "[DEBUG] mac/mac-service(N): source version = " +
+                                 std::to_string(row.source_number) + ", target version = " +
+                                 std::to_string(row.target_number);
+    EXPECT_NE(std::find(log.begin(), log.end(), decision), log.end());
+    if (!row.log.empty()) {
+        EXPECT_EQ(log, row.log);
     }
+    EXPECT_EQ(Warnings(), row.problem == nullptr
+                              ? Lines{}
+                              : Lines{"[WARNING] drift-service(N): bundle version record '" + bundle_ +
+                                      "/Contents/Resources/INFO' " + row.problem});
 }
+
+INSTANTIATE_TEST_SUITE_P(Records, ServiceDecides, testing::ValuesIn(kDecideRows), dwtest::RowName());
 
 // ---- stopping the client -------------------------------------------------
 
@@ -426,11 +328,10 @@ TEST_F(ServiceTest, StopSignalsOnlyAPidFileNamingTheClient)
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         unlink(pid_file_.c_str());
-        if (!row.text.empty())
-            WriteFile(pid_file_, row.text);
+        ASSERT_TRUE(row.text.empty() || WriteFile(pid_file_, row.text));
         EXPECT_LT(std::stoi(Run({"stop"})), 4000);  // no probes
         EXPECT_EQ(ServiceLog(), row.log);
-        EXPECT_FALSE(IsGone(client));
+        EXPECT_FALSE(ProcessGone(client));
         EXPECT_FALSE(Exists(home_ + "/sigterm-received"));
     }
     EXPECT_EQ(waitpid(other, nullptr, WNOHANG), 0) << "sleep was signalled";
@@ -451,18 +352,17 @@ TEST_F(ServiceTest, StopAsAnotherUserThanTheClient)
     Run({"stop"}, kNobody);
     EXPECT_EQ(ServiceLog(), Lines{"[NOTE] mac/mac-service(N): pid " + std::to_string(binary) +
                                   " is not the Driftwell UI, not signalled"});
-    EXPECT_FALSE(IsGone(binary));
+    EXPECT_FALSE(ProcessGone(binary));
 
     // Script client of root: recognised through its command line, but it
     // refuses every signal; the whole sequence runs and fails.
-    WriteFile(app_ + "/Contents/MacOS/drift-ui",
-              "#!/bin/sh\necho pid=$$ > \"$HOME/.Driftwell/ui.pid\"\nwhile :; do sleep 1; done\n",
-              0755);
+    ASSERT_TRUE(WriteFile(app_ + "/Contents/MacOS/drift-ui",
+                          "#!/bin/sh\necho pid=$$ > \"$HOME/.Driftwell/ui.pid\"\nwhile :; do sleep 1; done\n", 0755));
     const pid_t script = StartClient("term");
     ASSERT_GT(script, 0);
     EXPECT_GE(std::stoi(Run({"stop"}, kNobody)), 4900);
     EXPECT_EQ(ServiceLog(), Lines{"[ERROR] mac/mac-service(N): kill: Operation not permitted (1)"});
-    EXPECT_FALSE(IsGone(script));
+    EXPECT_FALSE(ProcessGone(script));
 }
 
 TEST_F(ServiceTest, StopEndsTheClientBySigtermOrElseBySigkillAfterTheProbes)
@@ -474,11 +374,11 @@ TEST_F(ServiceTest, StopEndsTheClientBySigtermOrElseBySigkillAfterTheProbes)
         const pid_t client = StartClient(ignores ? "ignore" : "term");
         ASSERT_GT(client, 0);
         // Blanks around the number are fine.
-        WriteFile(pid_file_, "pid = '  " + std::to_string(client) + " '\n");
+        ASSERT_TRUE(WriteFile(pid_file_, "pid = '  " + std::to_string(client) + " '\n"));
         const int elapsed_ms = std::stoi(Run({"stop"}));
         EXPECT_EQ(ServiceLog(), Lines{});
         EXPECT_TRUE(Exists(home_ + "/sigterm-received"));
-        EXPECT_TRUE(WaitFor([&] { return IsGone(client); }));
+        EXPECT_TRUE(WaitFor([&] { return ProcessGone(client); }));
         if (ignores)
             EXPECT_GE(elapsed_ms, 4900);  // five one-second probes first
         else
@@ -491,99 +391,107 @@ TEST_F(ServiceTest, StopEndsTheClientBySigtermOrElseBySigkillAfterTheProbes)
 // What interrupted runs leave: a partial copy (no record), the old copy under
 // a backup name, stale backups in any of the ten names. None of it may block
 // the upgrade, and a rollback only ever puts a complete copy in place.
-TEST_F(ServiceTest, UpgradeRecoversWhatInterruptedRunsLeft)
-{
-    const std::string incomplete =
-        "[WARNING] drift-service(N): removing incomplete copy '" + app_ + "'";
-    const auto kept = [&](int n) {
-        return "[WARNING] drift-service(N): no complete copy in place, '" + Bak(n) +
-               "' is the old copy";
-    };
-    const auto restoring = [&](int n) {
-        return "[WARNING] drift-service(N): restoring '" + Bak(n) + "'";
-    };
-    Lines all_leftovers;
-    std::map<int, int> all_taken;
-    for (int i = 0; i <= 9; ++i) {
-        all_leftovers.push_back(Leftover(i));
-        all_taken[i] = i % 2 == 0 ? 1 : -1;
-    }
-    const int kApp = 10;
-    const struct {
-        const char* name;
-        int app;                     // build of the copy in place (as InstallOldCopy)
-        std::map<int, int> backups;  // backup number -> build
-        bool damaged;                // the package breaks off after drift-ui
-        const char* result;
-        int restored;  // -1: the new package in place; else what was at this backup (kApp: in place)
-        Lines warnings;
-        bool locked;  // the leftovers belong to root, the service runs as nobody
-    } rows[] = {
-        {"all_names_taken", 1, all_taken, false, "0", -1, all_leftovers, false},
-        {"partial_copy_old_one_backed_up", -1, {{0, 1}}, false, "0", -1, {incomplete, kept(0)}, false},
-        {"partial_copy_then_damaged_package", -1, {{0, 1}}, true, "-1", 0,
-         {incomplete, kept(0), restoring(0)}, false},
-        {"only_a_backup_then_damaged_package", 0, {{0, 1}}, true, "-1", 0,
-         {kept(0), restoring(0)}, false},
-        {"newest_complete_backup_restored", -1, {{0, 1}, {3, 5}, {4, -1}}, true, "-1", 3,
-         {incomplete, kept(3), Leftover(0), Leftover(4), restoring(3)}, false},
-        {"rollback_without_leftovers", 1, {}, true, "-1", kApp, {restoring(0)}, false},
-        {"unremovable_leftovers", 1, all_taken, false, "-1", kApp, all_leftovers, true},
-    };
-    Entries damaged = NewPackage();
-    damaged.insert(damaged.begin() + 3, {"Contents/MacOS/big.bin", std::string(200000, 'x')});
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        if (row.locked && geteuid() != 0)
-            continue;  // root removes anything: needs root to run as another user
-        ClearCopies();
-        InstallOldCopy("", row.app);
-        for (const auto& [number, build] : row.backups)
-            InstallOldCopy(Bak(number), build);
-        const Tree before = row.restored < 0 ? Tree()
-                                             : Snapshot(row.restored == kApp ? app_ : Bak(row.restored));
-        if (row.damaged)
-            WriteArchive(Package(), damaged, 100000);
-        else
-            WriteArchive(Package(), NewPackage());
-        pid_t client = 0;
-        if (row.app > 0 && !row.locked) {
-            ASSERT_GT(client = StartClient("term"), 0);
-        }
-        if (row.locked) {
-            ASSERT_TRUE(ChownTree(root_, kNobody));
-            for (const auto& [number, build] : row.backups)
-                ASSERT_TRUE(ChownTree(Bak(number), 0));
-        }
+const int kApp = 10;
+const std::map<int, int> kAllTaken = {{0, 1}, {1, -1}, {2, 1}, {3, -1}, {4, 1},
+                                      {5, -1}, {6, 1}, {7, -1}, {8, 1}, {9, -1}};
 
-        EXPECT_EQ(Run({"upgrade"}, row.locked ? kNobody : 0), row.result);
-        EXPECT_EQ(Warnings(), row.warnings);
-        const Entries package = NewPackage();
-        EXPECT_EQ(Snapshot(app_), row.restored < 0 ? Tree(package.begin(), package.end()) : before);
-        for (int i = 0; i <= 9; ++i)
-            EXPECT_EQ(Exists(Bak(i)), row.locked) << Bak(i);
-        if (row.locked) {
-            const Lines log = ServiceLog();
-            EXPECT_EQ(log.back(), BackupFailedLine(9) + " at max retries, exiting");
+struct UpgradeRow : dwtest::Row {
+    int app;                     // build of the copy in place (as InstallOldCopy)
+    std::map<int, int> backups;  // backup number -> build
+    bool damaged;                // the package breaks off after drift-ui
+    const char* result;
+    int restored;  // -1: the new package in place; else what was at this backup (kApp: in place)
+    // The warnings in words: "incomplete", "keptN", "leftoverN", "restoringN",
+    // "leftovers" (all ten names).
+    const char* warnings;
+    bool locked;  // the leftovers belong to root, the service runs as nobody
+};
+
+const UpgradeRow kUpgradeRows[] = {
+    {"all_names_taken", 1, kAllTaken, false, "0", -1, "leftovers", false},
+    {"partial_copy_old_one_backed_up", -1, {{0, 1}}, false, "0", -1, "incomplete kept0", false},
+    {"partial_copy_then_damaged_package", -1, {{0, 1}}, true, "-1", 0, "incomplete kept0 restoring0", false},
+    {"only_a_backup_then_damaged_package", 0, {{0, 1}}, true, "-1", 0, "kept0 restoring0", false},
+    {"newest_complete_backup_restored", -1, {{0, 1}, {3, 5}, {4, -1}}, true, "-1", 3,
+     "incomplete kept3 leftover0 leftover4 restoring3", false},
+    {"rollback_without_leftovers", 1, {}, true, "-1", kApp, "restoring0", false},
+    {"unremovable_leftovers", 1, kAllTaken, false, "-1", kApp, "leftovers", true},
+};
+
+class ServiceUpgrades : public ServiceTest, public testing::WithParamInterface<UpgradeRow> {
+protected:
+    Lines ExpectedWarnings(const std::string& words) const
+    {
+        Lines lines;
+        std::istringstream in(words);
+        for (std::string word; in >> word;) {
+            const int n = isdigit(word.back()) ? word.back() - '0' : 0;
+            if (word == "incomplete")
+                lines.push_back("[WARNING] drift-service(N): removing incomplete copy '" + app_ + "'");
+            else if (word == "leftovers")
+                for (int i = 0; i <= 9; ++i)
+                    lines.push_back(Leftover(i));
+            else if (word.rfind("leftover", 0) == 0)
+                lines.push_back(Leftover(n));
+            else if (word.rfind("kept", 0) == 0)
+                lines.push_back("[WARNING] drift-service(N): no complete copy in place, '" + Bak(n) +
+                                "' is the old copy");
+            else
+                lines.push_back("[WARNING] drift-service(N): restoring '" + Bak(n) + "'");
         }
-        if (client > 0) {
-            EXPECT_TRUE(WaitFor([&] { return IsGone(client); }));
-        }
+        return lines;
+    }
+};
+
+TEST_P(ServiceUpgrades, RecoversWhatInterruptedRunsLeft)
+{
+    const UpgradeRow& row = GetParam();
+    if (row.locked && geteuid() != 0)
+        GTEST_SKIP() << "root removes anything: needs root to run as another user";
+    InstallOldCopy("", row.app);
+    for (const auto& [number, build] : row.backups)
+        InstallOldCopy(Bak(number), build);
+    const Tree before = row.restored < 0 ? Tree() : Snapshot(row.restored == kApp ? app_ : Bak(row.restored));
+    std::vector<Entry> damaged = NewPackage();
+    damaged.insert(damaged.begin() + 3, {Entry::File, "Contents/MacOS/big.bin", std::string(200000, 'x'), 0755});
+    ASSERT_TRUE(dwtest::WriteArchive(Package(), row.damaged ? damaged : NewPackage(), {}, row.damaged ? -100000 : 0));
+    pid_t client = 0;
+    if (row.app > 0 && !row.locked) {
+        ASSERT_GT(client = StartClient("term"), 0);
+    }
+    if (row.locked) {
+        ASSERT_TRUE(ChownTree(root_, kNobody));
+        for (const auto& [number, build] : row.backups)
+            ASSERT_TRUE(ChownTree(Bak(number), 0));
+    }
+
+    EXPECT_EQ(Run({"upgrade"}, row.locked ? kNobody : 0), row.result);
+    EXPECT_EQ(Warnings(), ExpectedWarnings(row.warnings));
+    EXPECT_EQ(Snapshot(app_), row.restored < 0 ? dwtest::TreeOf(NewPackage()) : before);
+    for (int i = 0; i <= 9; ++i)
+        EXPECT_EQ(Exists(Bak(i)), row.locked) << Bak(i);
+    if (row.locked) {
+        const Lines log = ServiceLog();
+        EXPECT_EQ(log.back(), BackupFailedLine(9) + " at max retries, exiting");
+    }
+    if (client > 0) {
+        EXPECT_TRUE(WaitFor([&] { return ProcessGone(client); }));
     }
 }
 
+INSTANTIATE_TEST_SUITE_P(Leftovers, ServiceUpgrades, testing::ValuesIn(kUpgradeRows), dwtest::RowName());
+
 TEST_F(ServiceTest, FailedFirstInstallationKeepsThePartialCopy)
 {
-    Entries package = NewPackage();
-    package.push_back({"../escape", "out"});
-    WriteArchive(Package(), package);
+    std::vector<Entry> package = NewPackage();
+    package.push_back({Entry::File, "../escape", "out", 0755});
+    ASSERT_TRUE(dwtest::WriteArchive(Package(), package));
 
     EXPECT_EQ(Run({"upgrade"}), "-1");
     EXPECT_EQ(ServiceLog(),
               (Lines{extract_line_, "[ERROR] drift-service(N): Failed to extract package, and no "
                                     "old installation to rollback"}));
-    package.pop_back();
-    EXPECT_EQ(Snapshot(app_), Tree(package.begin(), package.end()));
+    EXPECT_EQ(Snapshot(app_), dwtest::TreeOf(NewPackage()));
 }
 
 // ---- launching the client ------------------------------------------------
@@ -592,8 +500,7 @@ TEST_F(ServiceTest, LaunchFailsWithoutAUsableExecutable)
 {
     for (const bool present : {false, true}) {
         SCOPED_TRACE(present ? "not executable" : "missing");
-        if (present)
-            WriteFile(app_ + "/Contents/MacOS/drift-ui", ReadFile(DW_FAKE_CLIENT), 0644);
+        ASSERT_TRUE(!present || WriteFile(app_ + "/Contents/MacOS/drift-ui", ReadFile(DW_FAKE_CLIENT)));
         Run({"launch"});
         EXPECT_EQ(ServiceLog(), Lines{"[ERROR] mac/mac-service(N): Failed to launch Driftwell UI"});
         EXPECT_FALSE(Exists(pid_file_));
@@ -630,49 +537,48 @@ TEST_F(ServiceTest, LaunchStartsTheClientDetachedAndOnlyOnce)
 // The aged folder goes on every launch; the backup names only once the copy
 // in place is complete and current (an upgrade cut short after its extraction
 // needs none on the next launch).
-TEST_F(ServiceTest, RemoveAgedFoldersAndLeftoversOfACurrentCopy)
+struct AgedRow : dwtest::Row {
+    bool aged;
+    int app;  // build of the copy in place (as InstallOldCopy)
+    bool removed;
+};
+
+const AgedRow kAgedRows[] = {
+    {"current_copy", true, 2, true},   {"newer_copy", false, 3, true},  {"older_copy", true, 1, false},
+    {"partial_copy", false, -1, false}, {"no_copy", false, 0, false},
+};
+
+class ServiceRemovesAged : public ServiceTest, public testing::WithParamInterface<AgedRow> {};
+
+TEST_P(ServiceRemovesAged, FoldersAndLeftoversOfACurrentCopy)
 {
+    const AgedRow& row = GetParam();
     const std::string aged = home_ + "/.Driftwell/app";
-    WriteFile(bundle_ + "/Contents/Resources/INFO", "[Version]\nbuild_version=2\n");
-    const struct {
-        const char* name;
-        bool aged;
-        int app;  // build of the copy in place (as InstallOldCopy)
-        bool removed;
-    } rows[] = {
-        {"current_copy", true, 2, true},
-        {"newer_copy", false, 3, true},
-        {"older_copy", true, 1, false},
-        {"partial_copy", false, -1, false},
-        {"no_copy", false, 0, false},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        ClearCopies();
-        if (row.aged)
-            WriteFile(aged + "/sub/file", "x");
-        InstallOldCopy("", row.app);
-        InstallOldCopy(Bak(0), 1);
-        InstallOldCopy(Bak(7), -1);
-        Run({"remove-aged"});
-        Lines expected = {"[INFO] drift-service(N): removing aged app folder " + aged};
-        if (row.removed) {
-            expected.push_back(Leftover(0));
-            expected.push_back(Leftover(7));
-        }
-        EXPECT_EQ(ServiceLog(), expected);
-        EXPECT_FALSE(Exists(aged));
-        EXPECT_EQ(Exists(Bak(0)), !row.removed);
-        EXPECT_EQ(Exists(Bak(7)), !row.removed);
+    ASSERT_TRUE(WriteFile(bundle_ + "/Contents/Resources/INFO", "[Version]\nbuild_version=2\n"));
+    ASSERT_TRUE(!row.aged || WriteFile(aged + "/sub/file", "x"));
+    InstallOldCopy("", row.app);
+    InstallOldCopy(Bak(0), 1);
+    InstallOldCopy(Bak(7), -1);
+    Run({"remove-aged"});
+    Lines expected = {"[INFO] drift-service(N): removing aged app folder " + aged};
+    if (row.removed) {
+        expected.push_back(Leftover(0));
+        expected.push_back(Leftover(7));
     }
+    EXPECT_EQ(ServiceLog(), expected);
+    EXPECT_FALSE(Exists(aged));
+    EXPECT_EQ(Exists(Bak(0)), !row.removed);
+    EXPECT_EQ(Exists(Bak(7)), !row.removed);
 }
+
+INSTANTIATE_TEST_SUITE_P(Copies, ServiceRemovesAged, testing::ValuesIn(kAgedRows), dwtest::RowName());
 
 TEST_F(ServiceTest, CopyPathCopiesTreesAndAnUnlistableFolderAsAnEmptyOne)
 {
     const std::string src = root_ + "/src";
-    WriteFile(src + "/a.txt", "a");
-    WriteFile(src + "/sub/deeper/b.txt", "bb");
-    WriteFile(src + "/locked/hidden.txt", "h");
+    ASSERT_TRUE(WriteFile(src + "/a.txt", "a"));
+    ASSERT_TRUE(WriteFile(src + "/sub/deeper/b.txt", "bb"));
+    ASSERT_TRUE(WriteFile(src + "/locked/hidden.txt", "h"));
     ASSERT_EQ(chmod((src + "/locked").c_str(), 0300), 0);
     // Root lists any folder: run the service as nobody instead.
     uid_t uid = 0;

@@ -43,6 +43,9 @@
 
 namespace {
 
+using dwtest::ReadFile;
+using dwtest::WriteFile;
+
 enum Phase { kStart, kStop, kBackup, kExtract, kRollback, kCleanUp, kPost, kPhases };
 const char* const kPhaseNames[kPhases] = {"start",    "stop",     "backup", "extract",
                                           "rollback", "clean-up", "post"};
@@ -56,19 +59,6 @@ long long NowUs()
     return std::chrono::duration_cast<std::chrono::microseconds>(
                std::chrono::steady_clock::now().time_since_epoch())
         .count();
-}
-
-QByteArray ReadFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-bool WriteFile(const QString& path, const QByteArray& data)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(data) == data.size();
 }
 
 // One line of the shim's trace.
@@ -150,8 +140,8 @@ public:
         if (!Stage(stage + "1", kOldBuild, rng) || !Stage(stage + "2", kNewBuild, rng) ||
             !Pack(stage + "1", old_package_) || !Pack(stage + "2", new_package_))
             return false;
-        old_tree_ = FileTree(stage + "1");
-        new_tree_ = FileTree(stage + "2");
+        old_tree_ = dwtest::Snapshot(stage + "1");
+        new_tree_ = dwtest::Snapshot(stage + "2");
         old_copy_ = stage + "1";
         // Cut inside the binaries: the entries before them are extracted, and
         // the version record, the last entry, never is.
@@ -245,10 +235,7 @@ private:
     // some files and adds others.
     bool Stage(const QString& root, int build, std::mt19937_64& rng)
     {
-        bool ok = WriteFile(root + "/Contents/MacOS/drift-ui", ReadFile(DW_FAKE_CLIENT)) &&
-                  QFile::setPermissions(root + "/Contents/MacOS/drift-ui",
-                                        QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
-                                            QFile::ReadOther | QFile::ExeOther) &&
+        bool ok = WriteFile(root + "/Contents/MacOS/drift-ui", ReadFile(QString(DW_FAKE_CLIENT)), 0705) &&
                   WriteFile(root + "/Contents/Resources/INFO", InfoRecord(build));
         for (int i = 0; ok && i < o_.files; ++i) {
             const QString name = build == kNewBuild && i % 50 == 7
@@ -295,14 +282,7 @@ private:
         qint64 pid = 0;
         if (!client.startDetached(&pid))
             return Fail("cannot start the old client");
-        for (int i = 0; i < 1000 && PidInFile(b) != pid; ++i)
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
-        return PidInFile(b) == pid || Fail("the old client wrote no pid file");
-    }
-
-    static qint64 PidInFile(const TestBundle& b)
-    {
-        return QSettings(b.userDir() + "/ui.pid", QSettings::IniFormat).value("pid").toLongLong();
+        return dwtest::WaitFor([&] { return b.clientPid() == pid; }, 5000) || Fail("the old client wrote no pid file");
     }
 
     struct Outcome {
@@ -382,22 +362,6 @@ private:
         return outcome;
     }
 
-    // Non-zombie processes started from the bundle's folder.
-    static QList<qint64> RunningFrom(const TestBundle& b)
-    {
-        const QByteArray dir = QFile::encodeName(QFileInfo(b.bundle()).path());
-        QList<qint64> pids;
-        for (const QString& name : QDir("/proc").entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-            const qint64 pid = name.toLongLong();
-            const QByteArray stat = ReadFile("/proc/" + name + "/stat");
-            const int paren = stat.lastIndexOf(')');
-            if (pid > 0 && pid != getpid() && paren > 0 && stat.mid(paren + 2, 1) != "Z" &&
-                ReadFile("/proc/" + name + "/cmdline").contains(dir))
-                pids.append(pid);
-        }
-        return pids;
-    }
-
     static bool IsComplete(const QString& copy)
     {
         return QFile::exists(copy + "/Contents/MacOS/drift-ui") &&
@@ -472,7 +436,7 @@ private:
         QString failure;
         if (!again.exited_with_zero)
             failure = "the next launch did not exit with 0";
-        else if (FileTree(app) != (damaged ? old_tree_ : new_tree_))
+        else if (dwtest::Snapshot(app) != (damaged ? old_tree_ : new_tree_))
             failure = "the per-user copy differs from the package";
         for (int i = 0; failure.isEmpty() && i <= 9; ++i) {
             if (QFileInfo::exists(app + "_tmp" + (i == 0 ? QString() : QString::number(i))))
@@ -484,16 +448,12 @@ private:
         }
         if (failure.isEmpty()) {
             const QString exe = app + "/Contents/MacOS/drift-ui";
-            qint64 pid = 0;
-            for (int i = 0; i < 2000; ++i) {
-                pid = PidInFile(b);
-                if (ProcessRunsExecutable(static_cast<pid_t>(pid), QFile::encodeName(exe).constData()) &&
-                    RunningFrom(b) == QList<qint64>{pid})
-                    break;
-                pid = 0;
-                std::this_thread::sleep_for(std::chrono::milliseconds(10));
-            }
-            if (pid == 0)
+            const auto one_client = [&] {
+                const qint64 pid = b.clientPid();
+                return ProcessRunsExecutable(static_cast<pid_t>(pid), QFile::encodeName(exe).constData()) &&
+                       b.processes() == QList<qint64>{pid};
+            };
+            if (!dwtest::WaitFor(one_client, 20000))
                 failure = "not exactly one client, running from the per-user copy";
         }
         if (o_.verbose || !failure.isEmpty())
@@ -514,7 +474,7 @@ private:
     Options o_;
     QTemporaryDir work_;
     QByteArray old_package_, new_package_, damaged_package_;
-    QMap<QString, QByteArray> old_tree_, new_tree_;
+    dwtest::Tree old_tree_, new_tree_;
     QString old_copy_;
     Census census_[2];  // good package, damaged package
 };

@@ -1,0 +1,122 @@
+#include "test_files.h"
+
+#include <signal.h>
+#include <stdlib.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <chrono>
+#include <climits>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <thread>
+
+namespace fs = std::filesystem;
+
+namespace dwtest {
+
+TempDir::TempDir(const std::string& base)
+{
+    std::string tmpl = (base.empty() ? fs::temp_directory_path().string() : base) + "/dwtest-XXXXXX";
+    char real[PATH_MAX];
+    if (mkdtemp(tmpl.data()) != nullptr && realpath(tmpl.c_str(), real) != nullptr)
+        path_ = real;
+}
+
+TempDir::~TempDir()
+{
+    std::error_code ignored;
+    if (ok())
+        fs::remove_all(path_, ignored);
+}
+
+bool Exists(const std::string& path)
+{
+    struct stat st;
+    return lstat(path.c_str(), &st) == 0;
+}
+
+std::string ReadFile(const std::string& path)
+{
+    std::ostringstream out;
+    out << std::ifstream(path, std::ios::binary).rdbuf();
+    return out.str();
+}
+
+bool WriteFile(const std::string& path, const std::string& data, int mode)
+{
+    std::error_code ec;
+    fs::create_directories(fs::path(path).parent_path(), ec);
+    unlink(path.c_str());
+    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    out << data;
+    out.close();
+    return out.good() && chmod(path.c_str(), static_cast<mode_t>(mode)) == 0;
+}
+
+std::string Shown(const std::string& data)
+{
+    if (data.size() < 256)
+        return data;
+    char digest[24];
+    snprintf(digest, sizeof digest, "%016zx", std::hash<std::string>()(data));
+    return "<" + std::to_string(data.size()) + " bytes #" + digest + ">";
+}
+
+Tree Snapshot(const std::string& root)
+{
+    Tree tree;
+    std::error_code ec;
+    for (fs::recursive_directory_iterator it(root, ec), end; !ec && it != end; it.increment(ec)) {
+        const std::string rel = it->path().lexically_relative(root).string();
+        if (it->is_symlink())
+            tree[rel] = "-> " + fs::read_symlink(it->path()).string();
+        else if (it->is_directory())
+            tree[rel] = "<dir>";
+        else
+            tree[rel] = Shown(ReadFile(it->path().string()));
+    }
+    return tree;
+}
+
+Tree TreeOf(const std::vector<Entry>& entries)
+{
+    Tree tree;
+    for (const Entry& e : entries) {
+        for (size_t slash = e.name.find('/'); slash != std::string::npos; slash = e.name.find('/', slash + 1))
+            tree[e.name.substr(0, slash)] = "<dir>";
+        switch (e.kind) {
+        case Entry::File: tree[e.name] = Shown(e.data); break;
+        case Entry::Folder: tree[e.name] = "<dir>"; break;
+        case Entry::Symlink: tree[e.name] = "-> " + e.data; break;
+        case Entry::Hardlink: tree[e.name] = tree[e.data]; break;
+        }
+    }
+    return tree;
+}
+
+bool WaitFor(const std::function<bool()>& done, int timeout_ms)
+{
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(timeout_ms);
+    while (!done()) {
+        if (std::chrono::steady_clock::now() > deadline)
+            return done();
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+    return true;
+}
+
+bool ProcessGone(pid_t pid)
+{
+    if (pid <= 0 || (kill(pid, 0) != 0 && errno == ESRCH))
+        return true;
+    // The state follows the name in parentheses, which may hold blanks itself.
+    const std::string stat = ReadFile("/proc/" + std::to_string(pid) + "/stat");
+    const size_t paren = stat.rfind(')');
+    return paren != std::string::npos && paren + 2 < stat.size() && stat[paren + 2] == 'Z';
+}
+
+}  // namespace dwtest
