@@ -1,4 +1,5 @@
 #include "file-op.h"
+#include "test_files.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -11,13 +12,11 @@
 #include <utime.h>
 #include <atomic>
 #include <cerrno>
-#include <climits>
 #include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <set>
-#include <sstream>
 #include <string>
 #include <thread>
 #include <tuple>
@@ -26,28 +25,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// A fresh folder, spelled canonically so that exact checks can match it.
-std::string MakeTempDir(const std::string& base)
-{
-    std::string tmpl = base + "/fileop-XXXXXX";
-    char real[PATH_MAX];
-    return mkdtemp(&tmpl[0]) && realpath(tmpl.c_str(), real) ? real : "";
-}
-
-void WriteFile(const std::string& path, const std::string& text)
-{
-    std::ofstream(path, std::ios::binary) << text;
-}
-
-std::string ReadFile(const std::string& path)
-{
-    std::stringstream s;
-    s << std::ifstream(path, std::ios::binary).rdbuf();
-    return s.str();
-}
+using dwtest::Exists;
+using dwtest::ReadFile;
+using dwtest::WriteFile;
 
 // Links are described, not followed.
-bool Exists(const std::string& path) { return fs::exists(fs::symlink_status(path)); }
 bool IsDir(const std::string& path) { return fs::is_directory(fs::symlink_status(path)); }
 
 mode_t ModeOf(const std::string& path)
@@ -58,18 +40,7 @@ mode_t ModeOf(const std::string& path)
 
 class FileOpTest : public ::testing::Test {
 protected:
-    void SetUp() override
-    {
-        dir = MakeTempDir(fs::temp_directory_path().string());
-        ASSERT_FALSE(dir.empty());
-    }
-    void TearDown() override
-    {
-        std::error_code ec;
-        for (const std::string& d : {dir, other}) {
-            fs::remove_all(d, ec);
-        }
-    }
+    void SetUp() override { ASSERT_TRUE(tmp_.ok()); }
     std::string P(const std::string& rel) const { return dir + "/" + rel; }
 
     // A file, a folder, a nested file, a valid and a dangling link.
@@ -82,7 +53,8 @@ protected:
         fs::create_symlink("nowhere", root + "/dangling");
     }
 
-    std::string dir, other;  // other: a folder on a second file system, if used
+    dwtest::TempDir tmp_;
+    const std::string dir = tmp_.path();  // spelled canonically so that exact checks can match it
 };
 
 TEST_F(FileOpTest, IsFileExistMatchesExactSpellingOnly)
@@ -209,8 +181,9 @@ TEST_F(FileOpTest, MoveAcrossFileSystemsCopiesFilesTreesAndLinksButNotFifos)
     if (stat(dir.c_str(), &a) != 0 || stat("/dev/shm", &b) != 0 || a.st_dev == b.st_dev) {
         GTEST_SKIP() << "the temp folder and /dev/shm are not two file systems";
     }
-    other = MakeTempDir("/dev/shm");
-    ASSERT_FALSE(other.empty());
+    const dwtest::TempDir shm("/dev/shm");
+    const std::string& other = shm.path();
+    ASSERT_TRUE(shm.ok());
     WriteFile(P("file"), "contents");
     MakeTree(P("tree"));
     fs::create_symlink("../some/target", P("alone"));
@@ -228,15 +201,12 @@ TEST_F(FileOpTest, MoveAcrossFileSystemsCopiesFilesTreesAndLinksButNotFifos)
     EXPECT_EQ(ModeOf(other + "/tree/sub"), 0755u);
     EXPECT_EQ(FSRename(P("fifo"), other + "/fifo", false), kFSRenameFailed);
     EXPECT_TRUE(Exists(P("fifo")));
-    EXPECT_FALSE(Exists(other + "/fifo"));
-
-    EXPECT_EQ(ReadFile(other + "/file"), "contents");
-    EXPECT_EQ(ReadFile(other + "/tree/a.txt"), "alpha");
-    EXPECT_EQ(ReadFile(other + "/tree/sub/nested.txt"), "nested");
-    EXPECT_TRUE(IsDir(other + "/tree/sub/empty"));
-    EXPECT_EQ(fs::read_symlink(other + "/tree/link"), "a.txt");
-    EXPECT_EQ(fs::read_symlink(other + "/tree/dangling"), "nowhere");
-    EXPECT_EQ(fs::read_symlink(other + "/alone"), "../some/target");
+    // No fifo among what arrived.
+    EXPECT_EQ(dwtest::Snapshot(other), (dwtest::Tree{{"file", "contents"}, {"alone", "-> ../some/target"},
+                                                     {"tree", "<dir>"}, {"tree/a.txt", "alpha"},
+                                                     {"tree/sub", "<dir>"}, {"tree/sub/nested.txt", "nested"},
+                                                     {"tree/sub/empty", "<dir>"}, {"tree/link", "-> a.txt"},
+                                                     {"tree/dangling", "-> nowhere"}}));
 }
 
 TEST_F(FileOpTest, MakeFolderAcceptsOnlyRealFolders)

@@ -39,11 +39,11 @@ TEST(ConfigRead, FileFormatTable)
         {"long_line_split_into_two_entries", "a=" + x8189 + "b=2\n", 0, {{"a", x8189}, {"b", "2"}}},
     };
 
-    TempDir dir;
+    dwtest::TempDir dir;
     ASSERT_TRUE(dir.ok());
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        write_file(dir.file(row.name), row.text);
+        dwtest::WriteFile(dir.file(row.name), row.text);
         Config c;
         EXPECT_EQ(c.read(dir.file(row.name).c_str()), row.result);
         EXPECT_EQ(c.entries, row.entries);
@@ -52,7 +52,7 @@ TEST(ConfigRead, FileFormatTable)
 
 TEST(ConfigRead, MalformedLineEmptiesAlsoEarlierEntriesButNoFileKeepsThem)
 {
-    TempDir dir;
+    dwtest::TempDir dir;
     ASSERT_TRUE(dir.ok());
     Config c;
     c.entries["old"] = "1";
@@ -60,11 +60,11 @@ TEST(ConfigRead, MalformedLineEmptiesAlsoEarlierEntriesButNoFileKeepsThem)
     EXPECT_EQ(c.entries, (Entries{{"old", "1"}}));
 
     // A good file adds to them, replacing a key that is already there.
-    write_file(dir.file("good"), "old=2\nnew=3\n");
+    dwtest::WriteFile(dir.file("good"), "old=2\nnew=3\n");
     EXPECT_EQ(c.read(dir.file("good").c_str()), 0);
     EXPECT_EQ(c.entries, (Entries{{"new", "3"}, {"old", "2"}}));
 
-    write_file(dir.file("bad"), "more=4\nkey\n");
+    dwtest::WriteFile(dir.file("bad"), "more=4\nkey\n");
     EXPECT_EQ(c.read(dir.file("bad").c_str()), -1);
     EXPECT_TRUE(c.entries.empty());
 }

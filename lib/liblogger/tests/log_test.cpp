@@ -13,9 +13,13 @@
 #include <vector>
 
 #include "log.h"
+#include "named_rows.h"
 #include "test_files.h"
 
 namespace {
+
+using dwtest::ReadFile;
+using dwtest::WriteFile;
 
 // "%b %d %H:%M:%S " in the C locale, e.g. "Nov 16 20:37:07 ": always 16 bytes.
 const size_t STAMP_LEN = 16;
@@ -36,7 +40,7 @@ bool has_stamp(const std::string& line)
 // a line that has none is kept whole and marked, so that it never matches.
 std::vector<std::string> messages_of(const std::string& path)
 {
-    const std::string text = read_file(path);
+    const std::string text = ReadFile(path);
     std::vector<std::string> out;
     for (size_t start = 0, end; start < text.size(); start = end) {
         end = text.find('\n', start);
@@ -74,43 +78,44 @@ protected:
 
     std::string archive(int k) const { return log + "_" + std::to_string(k); }
 
-    TempDir dir;
+    dwtest::TempDir dir;
     const std::string log = dir.file("launcher.log");
 };
 
-TEST_F(LoggerTest, WritesTimeStampAndCallerTextUpToEachComponentsThreshold)
+struct ThresholdRow : dwtest::Row {
+    const char* level_file;  // null: none
+    std::vector<std::string> expected;
+};
+
+const ThresholdRow kThresholdRows[] = {
+    {"no_level_file", nullptr,
+     {"3 launcher_debug\n", "4 launcher_debug\n", "3 service_debug\n", "4 service_debug\n",
+      "3 extractor_debug\n", "4 extractor_debug\n", "3 unknown\n", "4 unknown\n"}},
+    // default_component is not a fall-back for components missing from the map.
+    {"level_file", "service_debug = 7\nextractor_debug=2\ndefault_component=7\n",
+     {"3 launcher_debug\n", "4 launcher_debug\n", "3 service_debug\n", "4 service_debug\n",
+      "5 service_debug\n", "6 service_debug\n", "7 service_debug\n", "3 unknown\n", "4 unknown\n"}},
+};
+
+class LoggerThresholds : public LoggerTest, public testing::WithParamInterface<ThresholdRow> {};
+
+TEST_P(LoggerThresholds, WritesTimeStampAndCallerTextUpToEachComponentsThreshold)
 {
-    const struct {
-        const char* name;
-        const char* level_file;  // null: none
-        std::vector<std::string> expected;
-    } rows[] = {
-        {"no_level_file", nullptr,
-         {"3 launcher_debug\n", "4 launcher_debug\n", "3 service_debug\n", "4 service_debug\n",
-          "3 extractor_debug\n", "4 extractor_debug\n", "3 unknown\n", "4 unknown\n"}},
-        // default_component is not a fall-back for components missing from the map.
-        {"level_file", "service_debug = 7\nextractor_debug=2\ndefault_component=7\n",
-         {"3 launcher_debug\n", "4 launcher_debug\n", "3 service_debug\n", "4 service_debug\n",
-          "5 service_debug\n", "6 service_debug\n", "7 service_debug\n", "3 unknown\n", "4 unknown\n"}},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        reset();
-        const std::string level_path = row.level_file ? dir.file("launcher.debug") : "";
-        if (row.level_file)
-            write_file(level_path, row.level_file);
-        std::filesystem::remove(log);
-        ASSERT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, log.c_str(), level_path.c_str(), 50), 0);
-        for (const char* component : {"launcher_debug", "service_debug", "extractor_debug", "unknown"})
-            for (int level = Logger::LOG_ERROR; level <= Logger::LOG_DEBUG; ++level)
-                Logger::LogMsg(static_cast<Logger::Level>(level), component, "%d %s\n", level, component);
-        EXPECT_EQ(messages_of(log), row.expected);
-    }
+    const ThresholdRow& row = GetParam();
+    const std::string level_path = row.level_file ? dir.file("launcher.debug") : "";
+    ASSERT_TRUE(!row.level_file || WriteFile(level_path, row.level_file));
+    ASSERT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, log.c_str(), level_path.c_str(), 50), 0);
+    for (const char* component : {"launcher_debug", "service_debug", "extractor_debug", "unknown"})
+        for (int level = Logger::LOG_ERROR; level <= Logger::LOG_DEBUG; ++level)
+            Logger::LogMsg(static_cast<Logger::Level>(level), component, "%d %s\n", level, component);
+    EXPECT_EQ(messages_of(log), row.expected);
 }
+
+INSTANTIATE_TEST_SUITE_P(Levels, LoggerThresholds, testing::ValuesIn(kThresholdRows), dwtest::RowName());
 
 TEST_F(LoggerTest, InitializeWithoutLogPathFailsButAppliesTheLevelFile)
 {
-    write_file(dir.file("launcher.debug"), "service_debug=7\n");
+    WriteFile(dir.file("launcher.debug"), "service_debug=7\n");
     EXPECT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, "", dir.file("launcher.debug").c_str(), 4), -1);
     EXPECT_EQ(Logger::log_level["service_debug"], 7);
     EXPECT_EQ(Logger::log_fp, stderr);
@@ -118,38 +123,40 @@ TEST_F(LoggerTest, InitializeWithoutLogPathFailsButAppliesTheLevelFile)
 
 // A malformed file leaves the defaults; a level that is not a number reads
 // as get_int has it (0 silences even errors). Either way a warning says so.
-TEST_F(LoggerTest, GarbageInTheLevelFileIsSaid)
+struct GarbageRow : dwtest::Row {
+    const char* level_file;
+    const char* warning;
+    size_t messages;
+};
+
+const GarbageRow kGarbageRows[] = {
+    {"malformed", "\x7f" "ELF\x01 launcher_debug = 7\n[section]\n", "' is malformed, default levels apply\n", 2},
+    {"not_a_number", "launcher_debug = loud\n", "': level of 'launcher_debug' is not a number, read as 0\n", 1},
+    {"digits_then_letters", "launcher_debug = 4x\n", "': level of 'launcher_debug' is not a number, read as 4\n", 2},
+};
+
+class LoggerLevelFile : public LoggerTest, public testing::WithParamInterface<GarbageRow> {};
+
+TEST_P(LoggerLevelFile, GarbageIsSaid)
 {
-    const struct {
-        const char* name;
-        const char* level_file;
-        const char* warning;
-        size_t messages;
-    } rows[] = {
-        {"malformed", "\x7f" "ELF\x01 launcher_debug = 7\n[section]\n", "' is malformed, default levels apply\n", 2},
-        {"not_a_number", "launcher_debug = loud\n", "': level of 'launcher_debug' is not a number, read as 0\n", 1},
-        {"digits_then_letters", "launcher_debug = 4x\n", "': level of 'launcher_debug' is not a number, read as 4\n", 2},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        reset();
-        write_file(dir.file("launcher.debug"), row.level_file);
-        std::filesystem::remove(log);
-        ASSERT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, log.c_str(), dir.file("launcher.debug").c_str(), 50), 0);
-        Logger::LogMsg(Logger::LOG_ERROR, "launcher_debug", "3\n");
-        Logger::LogMsg(Logger::LOG_NOTE, "launcher_debug", "5\n");
-        const std::vector<std::string> messages = messages_of(log);
-        ASSERT_EQ(messages.size(), row.messages);
-        EXPECT_EQ(messages[0].rfind("[WARNING] log(", 0), 0u) << messages[0];
-        EXPECT_NE(messages[0].find(row.warning), std::string::npos) << messages[0];
-        EXPECT_EQ(messages.back(), row.messages == 2 ? "3\n" : messages[0]);
-    }
+    const GarbageRow& row = GetParam();
+    ASSERT_TRUE(WriteFile(dir.file("launcher.debug"), row.level_file));
+    ASSERT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, log.c_str(), dir.file("launcher.debug").c_str(), 50), 0);
+    Logger::LogMsg(Logger::LOG_ERROR, "launcher_debug", "3\n");
+    Logger::LogMsg(Logger::LOG_NOTE, "launcher_debug", "5\n");
+    const std::vector<std::string> messages = messages_of(log);
+    ASSERT_EQ(messages.size(), row.messages);
+    EXPECT_EQ(messages[0].rfind("[WARNING] log(", 0), 0u) << messages[0];
+    EXPECT_NE(messages[0].find(row.warning), std::string::npos) << messages[0];
+    EXPECT_EQ(messages.back(), row.messages == 2 ? "3\n" : messages[0]);
 }
+
+INSTANTIATE_TEST_SUITE_P(Levels, LoggerLevelFile, testing::ValuesIn(kGarbageRows), dwtest::RowName());
 
 TEST_F(LoggerTest, RotatesOnlyPastOneMebibyteKeepingRotateCountFiles)
 {
     for (int k = 0; k < 4; ++k)
-        write_file(archive(k), "archive " + std::to_string(k) + "\n");
+        WriteFile(archive(k), "archive " + std::to_string(k) + "\n");
     ASSERT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, log.c_str(), "", 4), 0);
 
     // 1,024 lines of 1,024 bytes reach exactly 1 MiB, which does not rotate yet.
@@ -159,26 +166,26 @@ TEST_F(LoggerTest, RotatesOnlyPastOneMebibyteKeepingRotateCountFiles)
     };
     for (int i = 1; i <= 1024; ++i)
         Logger::LogMsg(Logger::LOG_WARNING, "c", "%s", line(i).c_str());
-    EXPECT_EQ(read_file(archive(0)), "archive 0\n");
+    EXPECT_EQ(ReadFile(archive(0)), "archive 0\n");
 
     Logger::LogMsg(Logger::LOG_WARNING, "c", "%s", line(1025).c_str());
     const std::vector<std::string> rotated = messages_of(archive(0));
     ASSERT_EQ(rotated.size(), 1025u);
     EXPECT_EQ(rotated.back(), line(1025));  // the crossing line is whole in archive 0
-    EXPECT_EQ(read_file(archive(1)), "archive 0\n");
-    EXPECT_EQ(read_file(archive(2)), "archive 1\n");
+    EXPECT_EQ(ReadFile(archive(1)), "archive 0\n");
+    EXPECT_EQ(ReadFile(archive(2)), "archive 1\n");
     EXPECT_FALSE(std::filesystem::exists(archive(3)));
 
     Logger::LogMsg(Logger::LOG_WARNING, "c", "[WARNING] log_test(%d): next\n", 1026);
     EXPECT_EQ(messages_of(log), std::vector<std::string>{"[WARNING] log_test(1026): next\n"});
-    EXPECT_EQ(Logger::log_size, static_cast<int>(read_file(log).size()));
+    EXPECT_EQ(Logger::log_size, static_cast<int>(ReadFile(log).size()));
 }
 
 TEST_F(LoggerTest, FailedRotationStopsLogging)
 {
     // A non-empty folder where archive 0 belongs can be neither removed nor replaced.
     std::filesystem::create_directory(archive(0));
-    write_file(archive(0) + "/keep", "");
+    WriteFile(archive(0) + "/keep", "");
     ASSERT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, log.c_str(), "", 1), 0);
     Logger::LogMsg(Logger::LOG_WARNING, "c", "[WARNING] log_test(%d): before\n", 1);
 
@@ -228,73 +235,75 @@ TEST_F(LoggerTest, ThreadsLoseOrTearNoLineAcrossRotations)
 // Several launchers append to one log, each with a logger of its own: one
 // writing through rotations while refused second launchers add a line each,
 // and two rotating at the same moment.
-TEST_F(LoggerTest, ProcessesSharingTheLogLoseNoLineAndKeepTheirOwnCounts)
-{
-    const struct {
-        const char* name;
-        std::vector<int> lines;  // per process
-        int stagger_ms;          // between the starts
-    } rows[] = {
-        {"refused_launchers", {30000, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1}, 10},
-        {"two_rotating", {30000, 30000}, 0},
-    };
-    const std::filesystem::path folder = std::filesystem::path(log).parent_path();
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        for (const auto& entry : std::filesystem::directory_iterator(folder))
-            std::filesystem::remove(entry.path());
-        std::vector<FILE*> writers;
-        for (size_t w = 0; w < row.lines.size(); ++w) {
-            const std::string command = std::string(LOG_WRITER) + " " + log + " 50 w" + std::to_string(w)
-                                        + " " + std::to_string(row.lines[w]);
-            writers.push_back(popen(command.c_str(), "r"));
-            std::this_thread::sleep_for(std::chrono::milliseconds(row.stagger_ms));
-        }
-        std::vector<std::pair<long, unsigned long long>> reports;  // size count, inode of its file
-        for (FILE* p : writers) {
-            long size = -1;
-            unsigned long long inode = 0;
-            EXPECT_EQ(fscanf(p, "%ld %llu", &size, &inode), 2);
-            EXPECT_EQ(pclose(p), 0);
-            reports.emplace_back(size, inode);
-        }
+struct SharingRow : dwtest::Row {
+    std::vector<int> lines;  // per process
+    int stagger_ms;          // between the starts
+};
 
-        std::vector<std::string> files{log};
-        for (int k = 0; std::filesystem::exists(archive(k)); ++k)
-            files.push_back(archive(k));
-        const auto entries = std::distance(std::filesystem::directory_iterator(folder), {});
-        EXPECT_EQ(static_cast<size_t>(entries), files.size()) << "names beside the log and its archives";
-        std::map<unsigned long long, std::map<int, long>> bytes;  // inode -> process -> its bytes there
-        std::set<std::pair<int, int>> seen;
-        size_t total = 0;
-        for (const std::string& f : files) {
-            struct stat st;
-            ASSERT_EQ(stat(f.c_str(), &st), 0);
-            for (const std::string& message : messages_of(f)) {
-                ++total;
-                int w = -1, i = -1, text_start = 0;
-                ASSERT_EQ(sscanf(message.c_str(), "[WARNING] w%d(%d): %n", &w, &i, &text_start), 2) << f << ": " << message;
-                ASSERT_EQ(message.substr(text_start), std::string(80, 'p') + "\n") << f << ": " << message;
-                seen.insert({w, i});
-                bytes[st.st_ino][w] += static_cast<long>(STAMP_LEN + message.size());
-            }
-            // An archive was rotated by a process whose own count passed 1 MiB in it.
-            long most = 0;
-            for (const auto& share : bytes[st.st_ino])
-                most = std::max(most, share.second);
-            if (f != log) {
-                EXPECT_GT(most, 1048576) << f;
-            }
-        }
-        size_t expected = 0;
-        for (int n : row.lines)
-            expected += static_cast<size_t>(n);
-        EXPECT_EQ(total, expected);
-        EXPECT_EQ(seen.size(), expected);
-        // Each count is that process's bytes in the file it was writing last.
-        for (size_t w = 0; w < reports.size(); ++w)
-            EXPECT_EQ(reports[w].first, bytes[reports[w].second][static_cast<int>(w)]) << "process w" << w;
+const SharingRow kSharingRows[] = {
+    {"refused_launchers", {30000, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1}, 10},
+    {"two_rotating", {30000, 30000}, 0},
+};
+
+class LoggerProcesses : public LoggerTest, public testing::WithParamInterface<SharingRow> {};
+
+TEST_P(LoggerProcesses, SharingTheLogLoseNoLineAndKeepTheirOwnCounts)
+{
+    const SharingRow& row = GetParam();
+    const std::filesystem::path folder = dir.path();
+    std::vector<FILE*> writers;
+    for (size_t w = 0; w < row.lines.size(); ++w) {
+        const std::string command = std::string(LOG_WRITER) + " " + log + " 50 w" + std::to_string(w)
+                                    + " " + std::to_string(row.lines[w]);
+        writers.push_back(popen(command.c_str(), "r"));
+        std::this_thread::sleep_for(std::chrono::milliseconds(row.stagger_ms));
     }
+    std::vector<std::pair<long, unsigned long long>> reports;  // size count, inode of its file
+    for (FILE* p : writers) {
+        long size = -1;
+        unsigned long long inode = 0;
+        EXPECT_EQ(fscanf(p, "%ld %llu", &size, &inode), 2);
+        EXPECT_EQ(pclose(p), 0);
+        reports.emplace_back(size, inode);
+    }
+
+    std::vector<std::string> files{log};
+    for (int k = 0; std::filesystem::exists(archive(k)); ++k)
+        files.push_back(archive(k));
+    const auto entries = std::distance(std::filesystem::directory_iterator(folder), {});
+    EXPECT_EQ(static_cast<size_t>(entries), files.size()) << "names beside the log and its archives";
+    std::map<unsigned long long, std::map<int, long>> bytes;  // inode -> process -> its bytes there
+    std::set<std::pair<int, int>> seen;
+    size_t total = 0;
+    for (const std::string& f : files) {
+        struct stat st;
+        ASSERT_EQ(stat(f.c_str(), &st), 0);
+        for (const std::string& message : messages_of(f)) {
+            ++total;
+            int w = -1, i = -1, text_start = 0;
+            ASSERT_EQ(sscanf(message.c_str(), "[WARNING] w%d(%d): %n", &w, &i, &text_start), 2) << f << ": " << message;
+            ASSERT_EQ(message.substr(text_start), std::string(80, 'p') + "\n") << f << ": " << message;
+            seen.insert({w, i});
+            bytes[st.st_ino][w] += static_cast<long>(STAMP_LEN + message.size());
+        }
+        // An archive was rotated by a process whose own count passed 1 MiB in it.
+        long most = 0;
+        for (const auto& share : bytes[st.st_ino])
+            most = std::max(most, share.second);
+        if (f != log) {
+            EXPECT_GT(most, 1048576) << f;
+        }
+    }
+    size_t expected = 0;
+    for (int n : row.lines)
+        expected += static_cast<size_t>(n);
+    EXPECT_EQ(total, expected);
+    EXPECT_EQ(seen.size(), expected);
+    // Each count is that process's bytes in the file it was writing last.
+    for (size_t w = 0; w < reports.size(); ++w)
+        EXPECT_EQ(reports[w].first, bytes[reports[w].second][static_cast<int>(w)]) << "process w" << w;
 }
+
+INSTANTIATE_TEST_SUITE_P(Writers, LoggerProcesses, testing::ValuesIn(kSharingRows), dwtest::RowName());
 
 }  // namespace
