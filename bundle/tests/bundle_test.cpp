@@ -17,21 +17,12 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include "test_files_qt.h"
+
 namespace {
 
-bool WriteFile(const QString& path, const QByteArray& data, int mode = 0644)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(data) == data.size()
-           && chmod(QFile::encodeName(path).constData(), mode) == 0;
-}
-
-QByteArray ReadFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+using dwtest::ReadFile;
+using dwtest::WriteFile;
 
 struct Package {
     int format = 0;

@@ -3,12 +3,11 @@
 #include <unistd.h>
 #include <cerrno>
 #include <climits>
-#include <cstdlib>
-#include <filesystem>
 #include <string>
 
 #include "fsref.h"
 #include "fstype.h"
+#include "test_files.h"
 
 namespace {
 
@@ -19,16 +18,14 @@ const unsigned char* U(const std::string& s)
 
 TEST(FsRefTest, GivesCanonicalSpellingOfExistingPathsOnly)
 {
-    std::string tmpl = std::filesystem::temp_directory_path().string() + "/fsref-XXXXXX";
-    char real[PATH_MAX];
-    ASSERT_TRUE(mkdtemp(&tmpl[0]) && realpath(tmpl.c_str(), real));
-    const std::string expected = std::string(real) + "/sub";
+    const dwtest::TempDir tmp;
+    const std::string expected = tmp.file("sub");
     ASSERT_EQ(mkdir(expected.c_str(), 0700), 0);
-    ASSERT_EQ(symlink("sub", (tmpl + "/link").c_str()), 0);
+    ASSERT_EQ(symlink("sub", tmp.file("link").c_str()), 0);
 
     FSRef ref;
     bool isDir = false;
-    ASSERT_EQ(FSPathMakeRef(U(tmpl + "/./link/../link"), &ref, &isDir), 0);
+    ASSERT_EQ(FSPathMakeRef(U(tmp.path() + "/./link/../link"), &ref, &isDir), 0);
     EXPECT_TRUE(isDir);
     unsigned char out[PATH_MAX];
     // The text and its terminator must fit.
@@ -36,9 +33,8 @@ TEST(FsRefTest, GivesCanonicalSpellingOfExistingPathsOnly)
     ASSERT_EQ(FSRefMakePath(&ref, out, expected.size() + 1), 0);
     EXPECT_EQ(reinterpret_cast<char*>(out), expected);
 
-    EXPECT_NE(FSPathMakeRef(U(tmpl + "/missing"), &ref, nullptr), 0);
+    EXPECT_NE(FSPathMakeRef(U(tmp.path() + "/missing"), &ref, nullptr), 0);
     EXPECT_NE(FSPathMakeRef(U(""), &ref, nullptr), 0);
-    std::filesystem::remove_all(tmpl);
 }
 
 TEST(FsTypeTest, NamesVolumesTheBsdWay)

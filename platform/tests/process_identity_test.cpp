@@ -1,44 +1,33 @@
 // Real child processes: a program, scripts run by an interpreter, a zombie
 // and a reaped child.
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
-#include <chrono>
 #include <csignal>
-#include <fstream>
-#include <sstream>
 #include <string>
-#include <thread>
-
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
 #include "process_identity.h"
+#include "test_files.h"
 
 namespace {
 
 // Waits until the /proc file of pid contains what (before the exec it is still us).
 void WaitForProc(pid_t pid, const char* file, const std::string& what)
 {
-    for (int i = 0; i < 600; ++i) {
-        std::ostringstream text;
-        text << std::ifstream("/proc/" + std::to_string(pid) + "/" + file).rdbuf();
-        if (text.str().find(what) != std::string::npos)
-            return;
-        std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    }
+    dwtest::WaitFor([&] {
+        return dwtest::ReadFile("/proc/" + std::to_string(pid) + "/" + file).find(what) != std::string::npos;
+    });
 }
 
 TEST(ProcessIdentity, MatchesTheRunningProgramOrAScriptNamedOnItsCommandLine)
 {
-    QTemporaryDir tmp;
-    const std::string dir = tmp.path().toStdString();
+    const dwtest::TempDir tmp;
+    const std::string dir = tmp.path();
     const std::string script = dir + "/drift-ui", plain = dir + "/plain", link = dir + "/link";
-    std::ofstream(script) << "#!/bin/sh\nwhile :; do sleep 1; done\n";
-    ASSERT_EQ(chmod(script.c_str(), 0755), 0);
+    ASSERT_TRUE(dwtest::WriteFile(script, "#!/bin/sh\nwhile :; do sleep 1; done\n", 0755));
     // Not a script: an interpreter reading it by name is not running it as a client.
-    std::ofstream(plain) << "while :; do sleep 1; done\n";
+    ASSERT_TRUE(dwtest::WriteFile(plain, "while :; do sleep 1; done\n"));
     ASSERT_EQ(symlink("/bin/sleep", link.c_str()), 0);
 
     const struct {

@@ -5,14 +5,13 @@
 #include <sys/wait.h>
 #include <unistd.h>
 #include <cerrno>
-#include <chrono>
 #include <csignal>
 #include <string>
-#include <thread>
 
 #include <gtest/gtest.h>
 
 #include "process_stop.h"
+#include "test_files.h"
 
 namespace {
 
@@ -35,8 +34,7 @@ pid_t StartSleep(bool ignore_term, pid_t want = 0)
         waitpid(pid, nullptr, 0);
         return -1;
     }
-    for (int i = 0; i < 600 && MatchProcessExecutable(pid, kSleep) != PROCESS_MATCHES; ++i)
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    dwtest::WaitFor([&] { return MatchProcessExecutable(pid, kSleep) == PROCESS_MATCHES; }, 6000);
     return pid;
 }
 
@@ -108,8 +106,7 @@ TEST(ProcessStop, HoldsNothingButTheNamedProgram)
         {"other_program", other, "/bin/sh", PROCESS_OTHER},
     };
     // Until the zombie is one, it may still count as us.
-    for (int i = 0; i < 600 && MatchProcessExecutable(zombie, "/proc/self/exe") != PROCESS_MISSING; ++i)
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    dwtest::WaitFor([&] { return MatchProcessExecutable(zombie, "/proc/self/exe") == PROCESS_MISSING; }, 6000);
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         HeldProcess held;

@@ -10,13 +10,11 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include "test_files_qt.h"
+
 namespace {
 
-QByteArray ReadFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+using dwtest::ReadFile;
 
 QByteArray PidLine(const QProcess& client)
 {
