@@ -4,7 +4,6 @@
 // upgrade running to its end.
 #include <gtest/gtest.h>
 
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QThread>
 
@@ -27,25 +26,15 @@ TEST(LauncherDismiss, EscapeAndCloseRequestLeaveTheUpgradeRunning)
     const Package package = ClientPackage(2, 8000);
     ASSERT_TRUE(b.setBuild(2, package));
 
-    QProcessEnvironment env = b.environment();
-    env.remove("QT_QPA_PLATFORM");
-    env.insert("DISPLAY", x.name());
-    // Refused at once, so libdbus does not fork dbus-launch (see the screen test).
-    env.insert("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/driftwell-test-bus");
     const int offset = b.log().size();
     auto log = [&] { return b.log().mid(offset); };
     QProcess launcher;
-    launcher.setProcessEnvironment(env);
-    launcher.start(b.executable(), QStringList());
+    b.start(launcher, x.name());
     ASSERT_TRUE(launcher.waitForStarted(kWaitTimeoutMs));
+    const auto ended = [&] { return launcher.state() != QProcess::Running; };
 
     unsigned long dialog = 0;
-    QElapsedTimer timer;
-    timer.start();
-    while (dialog == 0 && launcher.state() == QProcess::Running && timer.elapsed() < kRunTimeoutMs) {
-        QThread::msleep(50);
-        dialog = x.viewableWindow(kTitle);
-    }
+    dwtest::WaitFor([&] { return (dialog = x.viewableWindow(kTitle)) != 0 || ended(); }, kRunTimeoutMs);
     ASSERT_NE(0u, dialog) << "no dialog\n" << qPrintable(log());
     ASSERT_TRUE(b.waitForClientEvent("term 1"));
     EXPECT_TRUE(x.tryToDismiss(dialog));
@@ -53,8 +42,7 @@ TEST(LauncherDismiss, EscapeAndCloseRequestLeaveTheUpgradeRunning)
     EXPECT_EQ(dialog, x.viewableWindow(kTitle)) << "dismissed while the old client was being stopped";
     EXPECT_TRUE(LinesWith(log(), "extract package:").isEmpty()) << "the stop ended early";
 
-    while (LinesWith(log(), "extract package:").isEmpty() && launcher.state() == QProcess::Running)
-        QThread::msleep(20);
+    dwtest::WaitFor([&] { return !LinesWith(log(), "extract package:").isEmpty() || ended(); }, kRunTimeoutMs);
     EXPECT_TRUE(x.tryToDismiss(dialog));
 
     ASSERT_TRUE(launcher.waitForFinished(kRunTimeoutMs));

@@ -5,11 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QImage>
 #include <QProcess>
-#include <QThread>
 
 #include "launcher_testkit.h"
 #include "x_display.h"
@@ -43,16 +41,8 @@ TEST(LauncherScreen, ProgressDialogIsSeenDuringAnUpgrade)
     ASSERT_TRUE(b.install(1, ClientPackage(1, 0, ClientKind::IgnoresTerm)));
     ASSERT_TRUE(b.setBuild(2, ClientPackage(2)));
 
-    QProcessEnvironment env = b.environment();
-    env.remove("QT_QPA_PLATFORM");
-    env.insert("DISPLAY", x.name());
-    // No session bus here: libdbus would fork dbus-launch from a Qt thread,
-    // and a fork while another thread holds the sanitizer's allocator lock
-    // leaves the child hung. An address that refuses at once avoids the fork.
-    env.insert("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/driftwell-test-bus");
     QProcess launcher;
-    launcher.setProcessEnvironment(env);
-    launcher.start(b.executable(), QStringList());
+    b.start(launcher, x.name());
     ASSERT_TRUE(b.waitForClientEvent("term 1"));
 
     // import finds the window by its title and fails while it is not mapped;
@@ -61,14 +51,13 @@ TEST(LauncherScreen, ProgressDialogIsSeenDuringAnUpgrade)
     const QString shot = QString(DW_ARTIFACT_DIR) + "/progress_dialog.png";
     const QStringList import = {"-display", x.name(), "-window", "Talvane Driftwell", shot};
     QImage image;
-    QElapsedTimer timer;
-    timer.start();
-    do {
+    const auto shown = [&] {
         QFile::remove(shot);
         if (QProcess::execute("import", import) == 0)
             image = QImage(shot);
-    } while ((image.isNull() || !ShowsText(image)) && launcher.state() == QProcess::Running
-             && timer.elapsed() < kRunTimeoutMs);
+        return (!image.isNull() && ShowsText(image)) || launcher.state() != QProcess::Running;
+    };
+    dwtest::WaitFor(shown, kRunTimeoutMs);
     ASSERT_FALSE(image.isNull()) << "no mapped window titled Talvane Driftwell\n" << qPrintable(b.log());
     EXPECT_EQ(400, image.width());
     EXPECT_TRUE(ShowsText(image)) << "no text in " << qPrintable(shot);

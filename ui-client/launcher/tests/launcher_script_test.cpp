@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QDeadlineTimer>
 #include <QDir>
 #include <QFontMetrics>
 #include <QLabel>
@@ -17,6 +16,7 @@
 
 #include "launcher.h"
 #include "strtable.h"
+#include "test_files.h"
 #include "x_display.h"
 
 namespace {
@@ -25,9 +25,11 @@ const char* const kCodes[] = {"deu", "rus", "jpn", "krn", "cht", "chs"};
 
 void SettleUntil(const std::function<bool()>& done)
 {
-    QDeadlineTimer deadline(10000);
-    while (!done() && !deadline.hasExpired())
+    const auto settled = [&] {
         QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+        return done();
+    };
+    dwtest::WaitFor(settled, 10000);
 }
 
 class DialogScript : public testing::TestWithParam<const char*> {};

@@ -124,6 +124,19 @@ RunResult TestBundle::run(const QProcessEnvironment& env, const QString& program
     return result;
 }
 
+void TestBundle::start(QProcess& launcher, const QString& display) const
+{
+    QProcessEnvironment env = environment();
+    env.remove("QT_QPA_PLATFORM");
+    env.insert("DISPLAY", display);
+    // No session bus here: libdbus would fork dbus-launch from a Qt thread,
+    // and a fork while another thread holds the sanitizer's allocator lock
+    // leaves the child hung. An address that refuses at once avoids the fork.
+    env.insert("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/driftwell-test-bus");
+    launcher.setProcessEnvironment(env);
+    launcher.start(executable(), QStringList());
+}
+
 QString TestBundle::log() const
 {
     return QString::fromUtf8(dwtest::ReadFile(userDir() + "/log/launcher.log"));

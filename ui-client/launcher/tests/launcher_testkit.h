@@ -7,6 +7,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QProcess>
 #include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
@@ -72,6 +73,8 @@ public:
     RunResult run(const QProcessEnvironment& env, const QString& program = QString(),
                   const QString& working_dir = QString()) const;
     RunResult run() const { return run(environment()); }
+    // Starts the launcher on that X display, as a desktop session does.
+    void start(QProcess& launcher, const QString& display) const;
 
     QString log() const;  // the whole launcher.log
     // Waits until clients.log holds `event` (e.g. "start 2") `times` times.
