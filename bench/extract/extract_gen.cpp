@@ -10,17 +10,18 @@
 // plug-ins and framework binaries of medium size, images (random: already
 // compressed), translation catalogues, and many small text files (headers,
 // QML, strings), plus framework "Versions/Current" symbolic links.
-#include <archive.h>
-#include <archive_entry.h>
-
 #include <cstdint>
 #include <cstdio>
 #include <fstream>
-#include <sstream>
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "test_archive.h"
+
 namespace {
+
+using dwtest::Entry;
 
 const char VERSION[] = "extract_gen 1";
 const char* const PACKINGS[] = {"tar", "tar.gz", "tar.zst", "zip"};
@@ -69,10 +70,8 @@ public:
     bool close()
     {
         bool ok = ok_;
-        for (archive* w : writers_) {
-            ok = archive_write_close(w) == ARCHIVE_OK && ok;
-            archive_write_free(w);
-        }
+        for (auto& w : writers_)
+            ok = w->Close() && ok;
         writers_.clear();
         return ok;
     }
@@ -80,18 +79,18 @@ public:
     void folder(const std::string& path)
     {
         ++stats.folders;
-        put(path, AE_IFDIR, 0755, "", "");
+        put({Entry::Folder, path, "", 0755});
     }
     void file(const std::string& path, const std::string& content, int perm = 0644)
     {
         ++stats.files;
         stats.bytes += static_cast<long long>(content.size());
-        put(path, AE_IFREG, perm, content, "");
+        put({Entry::File, path, content, perm});
     }
     void symlink(const std::string& path, const std::string& target)
     {
         ++stats.symlinks;
-        put(path, AE_IFLNK, 0755, "", target);
+        put({Entry::Symlink, path, target, 0755});
     }
 
     // Source-like text: skewed word choice, short lines, some indentation.
@@ -170,50 +169,27 @@ public:
 private:
     void open(const std::string& path, const std::string& packing)
     {
-        archive* w = archive_write_new();
-        if (packing == "zip") {
-            ok_ = archive_write_set_format_zip(w) == ARCHIVE_OK && ok_;
-        } else {
-            ok_ = archive_write_set_format_pax_restricted(w) == ARCHIVE_OK && ok_;
-            if (packing == "tar.gz")
-                ok_ = archive_write_add_filter_gzip(w) == ARCHIVE_OK && ok_;
-            if (packing == "tar.zst")
-                ok_ = archive_write_add_filter_zstd(w) == ARCHIVE_OK && ok_;
-        }
-        ok_ = archive_write_open_filename(w, path.c_str()) == ARCHIVE_OK && ok_;
-        if (!ok_)
-            fprintf(stderr, "extract_gen: %s: %s\n", path.c_str(), archive_error_string(w));
-        writers_.push_back(w);
+        const int filter = packing == "tar.gz"    ? ARCHIVE_FILTER_GZIP
+                           : packing == "tar.zst" ? ARCHIVE_FILTER_ZSTD
+                                                  : ARCHIVE_FILTER_NONE;
+        const int format = packing == "zip" ? ARCHIVE_FORMAT_ZIP : ARCHIVE_FORMAT_TAR_PAX_RESTRICTED;
+        const dwtest::Packing fixed = {format, filter, nullptr, 1717200000};
+        writers_.push_back(std::make_unique<dwtest::ArchiveWriter>(path, fixed));
     }
 
-    void put(const std::string& path, int type, int perm, const std::string& content, const std::string& link)
+    void put(const Entry& entry)
     {
-        archive_entry* entry = archive_entry_new();
-        archive_entry_set_pathname(entry, path.c_str());
-        archive_entry_set_filetype(entry, static_cast<unsigned>(type));
-        archive_entry_set_perm(entry, static_cast<unsigned>(perm));
-        archive_entry_set_mtime(entry, 1717200000, 0);
-        archive_entry_set_size(entry, static_cast<la_int64_t>(content.size()));
-        if (type == AE_IFLNK)
-            archive_entry_set_symlink(entry, link.c_str());
-        for (archive* w : writers_) {
-            if (archive_write_header(w, entry) != ARCHIVE_OK) {
-                fprintf(stderr, "extract_gen: %s: %s\n", path.c_str(), archive_error_string(w));
+        for (auto& w : writers_) {
+            if (!w->Add(entry)) {
+                fprintf(stderr, "extract_gen: %s: %s\n", entry.name.c_str(), w->Error().c_str());
                 ok_ = false;
-                continue;
-            }
-            for (size_t off = 0; off < content.size(); off += 1 << 20) {
-                const size_t n = std::min(content.size() - off, size_t(1) << 20);
-                if (archive_write_data(w, content.data() + off, n) != static_cast<la_ssize_t>(n))
-                    ok_ = false;
             }
         }
-        archive_entry_free(entry);
     }
 
     Rng rng_;
     std::vector<std::string> words_;
-    std::vector<archive*> writers_;
+    std::vector<std::unique_ptr<dwtest::ArchiveWriter>> writers_;
     bool ok_ = true;
 };
 

@@ -8,10 +8,24 @@
 
 namespace dwtest {
 
+namespace {
+
+// archive_write_set_format knows every format by its code but ar's.
+int SetFormat(archive* a, int format)
+{
+    if (format == ARCHIVE_FORMAT_AR_BSD)
+        return archive_write_set_format_ar_bsd(a);
+    if (format == ARCHIVE_FORMAT_AR_GNU)
+        return archive_write_set_format_ar_svr4(a);
+    return archive_write_set_format(a, format);
+}
+
+}  // namespace
+
 ArchiveWriter::ArchiveWriter(const std::string& path, const Packing& packing)
     : a_(archive_write_new()), mtime_(packing.mtime)
 {
-    ok_ = archive_write_set_format(a_, packing.format) == ARCHIVE_OK
+    ok_ = SetFormat(a_, packing.format) == ARCHIVE_OK
           && archive_write_add_filter(a_, packing.filter) == ARCHIVE_OK
           && (packing.options == nullptr || archive_write_set_options(a_, packing.options) == ARCHIVE_OK)
           && archive_write_open_filename(a_, path.c_str()) == ARCHIVE_OK;

@@ -21,12 +21,9 @@ namespace {
 using dwtest::Snapshot;
 using dwtest::WriteFile;
 
-// Build 2 cut off inside a large entry: the upgrade starts, then fails.
 bool TruncatedUpgrade(TestBundle& b)
 {
-    Package package = ClientPackage(2);
-    package.insert(package.begin() + 1, {dwtest::Entry::File, "Contents/Resources/large.bin", std::string(256 * 1024, 'x')});
-    return b.setBuild(2, package) && QFile(b.package()).resize(64 * 1024);
+    return b.setTruncatedBuild(2);
 }
 
 // A folder where a file should be: unreadable even for root.
@@ -89,7 +86,9 @@ const HostileCase kCases[] = {
      [](TestBundle& b) { return WriteFile(b.userDir() + "/ui.pid", "pid=-1\n") && TruncatedUpgrade(b); },
      "ui.pid", nullptr},
     {"pid_file_junk", "home",
-     [](TestBundle& b) { return WriteFile(b.userDir() + "/ui.pid", "\x89PNG\r\n\x1a\npid=1\n") && TruncatedUpgrade(b); },
+     [](TestBundle& b) {
+         return WriteFile(b.userDir() + "/ui.pid", "\x89PNG\r\n\x1a\npid=1\n") && TruncatedUpgrade(b);
+     },
      "ui.pid", nullptr},
     {"level_file_junk", "home",
      [](TestBundle& b) { return WriteFile(b.bundle() + "/log/launcher.debug", "\x7f" "ELF\x02\x01 = \n[x]\n"); },
@@ -196,10 +195,12 @@ TEST(LauncherLimits, OutOfSpaceRollsBackByteForByte)
 
     // 12 MiB in files of 1 MiB, and one of 9 MiB for the file size limit.
     Package package = ClientPackage(2);
-    for (int i = 0; i < 12; ++i)
-        package.insert(package.begin() + 1, {dwtest::Entry::File, "Contents/Resources/part-" + std::to_string(i) + ".bin",
-                                             std::string(1 << 20, char('a' + i))});
-    package.insert(package.begin() + 1, {dwtest::Entry::File, "Contents/Resources/whole.bin", std::string(9 << 20, 'w')});
+    for (int i = 0; i < 12; ++i) {
+        const std::string name = "Contents/Resources/part-" + std::to_string(i) + ".bin";
+        package.insert(package.begin() + 1, {dwtest::Entry::File, name, std::string(1 << 20, char('a' + i))});
+    }
+    package.insert(package.begin() + 1,
+                   {dwtest::Entry::File, "Contents/Resources/whole.bin", std::string(9 << 20, 'w')});
     ASSERT_TRUE(b.setBuild(2, package));
     const int offset = b.log().size();
     const RunResult r = home.run();

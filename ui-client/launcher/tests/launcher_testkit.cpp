@@ -66,6 +66,14 @@ bool TestBundle::setBuild(int build, const Package& package) const
            && dwtest::WriteArchive(QFile::encodeName(this->package()).toStdString(), package);
 }
 
+bool TestBundle::setTruncatedBuild(int build) const
+{
+    Package entries = ClientPackage(build);
+    entries.insert(entries.begin() + 1,
+                   {dwtest::Entry::File, "Contents/Resources/large.bin", std::string(256 * 1024, 'x')});
+    return setBuild(build, entries) && QFile(package()).resize(64 * 1024);
+}
+
 bool TestBundle::install(int build, const Package& package) const
 {
     return setBuild(build, package) && run().exited_with_zero && waitForClientEvent(QString("start %1").arg(build));

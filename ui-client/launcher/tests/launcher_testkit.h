@@ -59,6 +59,8 @@ public:
 
     // The bundle's own INFO and package.
     bool setBuild(int build, const Package& package) const;
+    // That build cut off inside a large entry: an upgrade to it starts, then fails.
+    bool setTruncatedBuild(int build) const;
     // That build installed by a run of the launcher, its client started.
     bool install(int build, const Package& package) const;
     // The pid in the client's pid file, 0 if none.
