@@ -15,7 +15,7 @@
 #include "named_rows.h"
 #include "notify_adapter.h"
 #include "strtable.h"
-#include "test_files.h"
+#include "test_files_qt.h"
 
 namespace fs = std::filesystem;
 using dwtest::Entry;
@@ -45,9 +45,7 @@ const std::string g_log = g_log_dir.file("launcher.log");
 class ExtractorEnvironment : public testing::Environment {
     void SetUp() override
     {
-        static int argc = 1;
-        static char* argv[] = {const_cast<char*>("extractor_test"), nullptr};
-        app_ = new QCoreApplication(argc, argv);
+        dwtest::EnsureCoreApplication();
         StrTable::InitStrTable();
         // The bridge belongs to the thread that first asks for it, as in the launcher.
         Notify_Adapter::GetInstance();
@@ -55,12 +53,7 @@ class ExtractorEnvironment : public testing::Environment {
         dwtest::WriteFile(levels, "extractor_debug = 7\n");
         ASSERT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, g_log.c_str(), levels.c_str(), 50), 0);
     }
-    void TearDown() override
-    {
-        Logger::Destroy();
-        delete app_;
-    }
-    QCoreApplication* app_ = nullptr;
+    void TearDown() override { Logger::Destroy(); }
 };
 testing::Environment* const g_environment = testing::AddGlobalTestEnvironment(new ExtractorEnvironment);
 
