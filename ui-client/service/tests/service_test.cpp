@@ -83,10 +83,6 @@ protected:
         app_ = home_ + "/.Driftwell/Driftwell.app";
         pid_file_ = home_ + "/.Driftwell/ui.pid";
         log_ = root_ + "/service.log";
-        no_pid_file_line_ = "[DEBUG] mac/mac-service(N): pid file '" + pid_file_ +
-                            "' does not exist, no need to terminate";
-        extract_line_ =
-            "[INFO] drift-service(N): extract package: '" + Package() + "' -> '" + app_ + "'";
         ASSERT_TRUE(WriteFile(bundle_ + "/Contents/MacOS/launcher", ReadFile(DW_SERVICE_DRIVER), 0755));
         ASSERT_TRUE(WriteFile(bundle_ + "/log/launcher.debug",
                               "service_debug=7\nextractor_debug=7\nfile_op_debug=7\n"));
@@ -137,11 +133,6 @@ protected:
     std::string Bak(int n) const { return app_ + "_tmp" + (n == 0 ? "" : std::to_string(n)); }
     std::string Package() const { return bundle_ + "/Contents/Resources/package/driftwell.tpk"; }
 
-    std::string BackupFailedLine(int n) const
-    {
-        return "[ERROR] drift-service(N): failed to backup app from '" + app_ + "' -> '" + Bak(n) +
-               "'";
-    }
     // Every entry 0755, as the packer stores an installed bundle's executables.
     static std::vector<Entry> NewPackage()
     {
@@ -202,7 +193,7 @@ protected:
     }
 
     QTemporaryDir tmp_;
-    std::string root_, bundle_, home_, app_, pid_file_, log_, no_pid_file_line_, extract_line_;
+    std::string root_, bundle_, home_, app_, pid_file_, log_;
     std::vector<pid_t> started_;
 };
 
@@ -312,7 +303,8 @@ TEST_F(ServiceTest, StopSignalsOnlyAPidFileNamingTheClient)
         std::string text;  // empty: no pid file
         Lines log;
     } rows[] = {
-        {"no_pid_file", "", {no_pid_file_line_}},
+        {"no_pid_file", "",
+         {"[DEBUG] mac/mac-service(N): pid file '" + pid_file_ + "' does not exist, no need to terminate"}},
         {"stale", "pid=" + std::to_string(ended) + "\n", {}},
         {"reused_by_another_program", "pid=" + o + "\n",
          {"[NOTE] mac/mac-service(N): pid " + o + " is not the Driftwell UI, not signalled"}},
@@ -472,7 +464,8 @@ TEST_P(ServiceUpgrades, RecoversWhatInterruptedRunsLeft)
         EXPECT_EQ(Exists(Bak(i)), row.locked) << Bak(i);
     if (row.locked) {
         const Lines log = ServiceLog();
-        EXPECT_EQ(log.back(), BackupFailedLine(9) + " at max retries, exiting");
+        EXPECT_EQ(log.back(), "[ERROR] drift-service(N): failed to backup app from '" + app_ + "' -> '" + Bak(9) +
+                                  "' at max retries, exiting");
     }
     if (client > 0) {
         EXPECT_TRUE(WaitFor([&] { return ProcessGone(client); }));
@@ -489,8 +482,8 @@ TEST_F(ServiceTest, FailedFirstInstallationKeepsThePartialCopy)
 
     EXPECT_EQ(Run({"upgrade"}), "-1");
     EXPECT_EQ(ServiceLog(),
-              (Lines{extract_line_, "[ERROR] drift-service(N): Failed to extract package, and no "
-                                    "old installation to rollback"}));
+              (Lines{"[INFO] drift-service(N): extract package: '" + Package() + "' -> '" + app_ + "'",
+                     "[ERROR] drift-service(N): Failed to extract package, and no old installation to rollback"}));
     EXPECT_EQ(Snapshot(app_), dwtest::TreeOf(NewPackage()));
 }
 
