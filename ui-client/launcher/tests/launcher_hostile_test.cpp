@@ -15,6 +15,7 @@
 #include <QFileInfo>
 
 #include "launcher_testkit.h"
+#include "named_rows.h"
 
 namespace {
 
@@ -39,18 +40,12 @@ dwtest::Tree InstallAndStop(TestBundle& b)
     return b.install(1, ClientPackage(1, 2)) && b.stopClient(1) ? Snapshot(b.userApp()) : dwtest::Tree();
 }
 
-struct HostileCase {
-    const char* name;
+struct HostileCase : dwtest::Row {
     const char* home;  // home folder name, UTF-8
     std::function<bool(TestBundle&)> damage;
     const char* line;  // in a WARNING or ERROR line (shown by default) of the run
     const char* gap;   // not null: that line is still missing, and why
 };
-
-void PrintTo(const HostileCase& c, std::ostream* out)
-{
-    *out << c.name;
-}
 
 const char kNfc[] = "Zo\xc3\xab \xc3\x85ngstr\xc3\xb6m";      // Zoë Ångström
 const char kNfd[] = "Zoe\xcc\x88 A\xcc\x8angstro\xcc\x88m";  // the same, decomposed
@@ -122,8 +117,7 @@ TEST_P(LauncherHostile, KeepsThePreviousClientAndSaysWhy)
     EXPECT_FALSE(lines.filter("[ERROR]").isEmpty() && lines.filter("[WARNING]").isEmpty()) << qPrintable(log);
 }
 
-INSTANTIATE_TEST_SUITE_P(Input, LauncherHostile, testing::ValuesIn(kCases),
-                         [](const testing::TestParamInfo<HostileCase>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Input, LauncherHostile, testing::ValuesIn(kCases), dwtest::RowName());
 
 TEST(LauncherLimits, HundredThousandEntriesInstallCompletely)
 {

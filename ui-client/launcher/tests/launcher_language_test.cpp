@@ -3,11 +3,11 @@
 #include <gtest/gtest.h>
 
 #include "launcher_testkit.h"
+#include "named_rows.h"
 
 namespace {
 
-struct LanguageRow {
-    const char* name;
+struct LanguageRow : dwtest::Row {
     const char* variable;
     const char* locale;
     const char* code;
@@ -42,9 +42,6 @@ TEST_P(LauncherLanguage, DialogSpeaksTheLanguageOfTheEnvironment)
     EXPECT_EQ(1, LinesWith(b.log(), label).size()) << qPrintable(b.log());
 }
 
-INSTANTIATE_TEST_SUITE_P(Locales, LauncherLanguage, testing::ValuesIn(kRows),
-                         [](const testing::TestParamInfo<LanguageRow>& info) {
-                             return std::string(info.param.name);
-                         });
+INSTANTIATE_TEST_SUITE_P(Locales, LauncherLanguage, testing::ValuesIn(kRows), dwtest::RowName());
 
 }  // namespace
