@@ -133,7 +133,7 @@ protected:
     std::string Bak(int n) const { return app_ + "_tmp" + (n == 0 ? "" : std::to_string(n)); }
     std::string Package() const { return bundle_ + "/Contents/Resources/package/driftwell.tpk"; }
 
-    // Every entry 0755, as the packer stores an installed bundle's executables.
+    // The new build, every entry 0755.
     static std::vector<Entry> NewPackage()
     {
         return {{Entry::Folder, "Contents", "", 0755},
@@ -154,7 +154,7 @@ protected:
         ASSERT_TRUE(WriteFile(dir + "/Contents/MacOS/drift-ui", ReadFile(DW_FAKE_CLIENT), 0755));
         ASSERT_TRUE(WriteFile(dir + "/Contents/Resources/sub/deep.txt", "old " + at + std::to_string(build)));
         ASSERT_TRUE(build < 0 || WriteFile(dir + "/Contents/Resources/INFO",
-                                  "[Version]\nbuild_version=" + std::to_string(build) + "\n"));
+                                           "[Version]\nbuild_version=" + std::to_string(build) + "\n"));
     }
 
     std::string Leftover(int n) const
