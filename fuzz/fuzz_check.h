@@ -1,7 +1,7 @@
 // CHECK for fuzz targets: a broken invariant aborts, which libFuzzer reports
 // as a crash with the input that caused it.
-#ifndef DW_FUZZ_CHECK_H
-#define DW_FUZZ_CHECK_H
+#ifndef DW_FUZZ_FUZZ_CHECK_H
+#define DW_FUZZ_FUZZ_CHECK_H
 
 #include <cstdio>
 #include <cstdlib>

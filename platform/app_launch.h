@@ -6,8 +6,8 @@
 // left as a child of the caller. False when it is missing, not executable or
 // its exec fails. When known_pid (> 0) already runs that executable, nothing is
 // started and the result is true ("bring to front").
-#ifndef PLATFORM_APP_LAUNCH_H
-#define PLATFORM_APP_LAUNCH_H
+#ifndef DW_PLATFORM_APP_LAUNCH_H
+#define DW_PLATFORM_APP_LAUNCH_H
 
 #include <sys/types.h>
 

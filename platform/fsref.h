@@ -3,8 +3,8 @@
 // FSRefMakePath gives back its absolute path as the file system spells it, as
 // UTF-8 of at most maxPathSize - 1 bytes (nonzero status if it does not fit).
 // On macOS these are the CoreServices calls; elsewhere realpath stands in.
-#ifndef PLATFORM_FSREF_H
-#define PLATFORM_FSREF_H
+#ifndef DW_PLATFORM_FSREF_H
+#define DW_PLATFORM_FSREF_H
 
 #if defined(__APPLE__)
 #include <CoreServices/CoreServices.h>

@@ -1,8 +1,8 @@
 // The BSD statfs type name (f_fstypename) of the volume holding path:
 // "nfs", "smbfs", "afpfs", "msdos", ... On Linux it is derived from f_type.
 // 0 and name filled, or -1 with errno from statfs.
-#ifndef PLATFORM_FSTYPE_H
-#define PLATFORM_FSTYPE_H
+#ifndef DW_PLATFORM_FSTYPE_H
+#define DW_PLATFORM_FSTYPE_H
 
 #include <cstddef>
 

@@ -1,7 +1,7 @@
 // Which program a process id names, so that a signal never reaches a process
 // that merely inherited a number from a stale pid file.
-#ifndef PLATFORM_PROCESS_IDENTITY_H
-#define PLATFORM_PROCESS_IDENTITY_H
+#ifndef DW_PLATFORM_PROCESS_IDENTITY_H
+#define DW_PLATFORM_PROCESS_IDENTITY_H
 
 #include <sys/types.h>
 

@@ -1,7 +1,7 @@
 // Signalling a process and waiting for its end without ever reaching another
 // process that took its number over after it ended.
-#ifndef PLATFORM_PROCESS_STOP_H
-#define PLATFORM_PROCESS_STOP_H
+#ifndef DW_PLATFORM_PROCESS_STOP_H
+#define DW_PLATFORM_PROCESS_STOP_H
 
 #include <sys/types.h>
 

@@ -30,9 +30,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const char* const PACKINGS[] = {"tar", "tar.gz", "tar.zst", "zip"};
+const char* const kPackings[] = {"tar", "tar.gz", "tar.zst", "zip"};
 enum Tool { OURS, PLAIN, BSDTAR, TOOLS };
-const char* const TOOL_NAMES[] = {"ours", "plain", "bsdtar"};
+const char* const kToolNames[] = {"ours", "plain", "bsdtar"};
 
 struct Sample {
     double seconds = 0;
@@ -160,7 +160,7 @@ public:
         const std::string root = base + "/extract-bench-" + std::to_string(getpid());
         const std::string dest = root + "/dest";
         fs::create_directories(root);
-        for (const char* packing : PACKINGS)
+        for (const char* packing : kPackings)
             fs::copy_file(data_ + "/package." + packing, root + "/package." + packing,
                           fs::copy_options::overwrite_existing);
         printf("\n%s: %s (%s), %d runs\n", label.c_str(), root.c_str(), fs_type(root).c_str(), runs);
@@ -170,18 +170,18 @@ public:
         std::map<std::string, std::vector<Sample>> samples[TOOLS];
         // Round 0 warms the caches and checks every tree; it is not counted.
         for (int run = 0; run <= runs && ok; ++run) {
-            for (const char* packing : PACKINGS) {
+            for (const char* packing : kPackings) {
                 const std::string archive = root + "/package." + packing;
                 for (int k = 0; k < TOOLS; ++k) {
                     const Tool tool = static_cast<Tool>((k + run) % TOOLS);
                     clear(dest);
                     const Sample s = run_child(command(tool, archive, dest));
                     if (!s.ok) {
-                        fprintf(stderr, "%s failed on %s\n", TOOL_NAMES[tool], archive.c_str());
+                        fprintf(stderr, "%s failed on %s\n", kToolNames[tool], archive.c_str());
                         ok = false;
                     } else if (run == 0 && !(scan(dest) == expected_)) {
                         const TreeStats got = scan(dest);
-                        fprintf(stderr, "%s on %s: %ld files, %ld folders, %ld links, %lld bytes\n", TOOL_NAMES[tool],
+                        fprintf(stderr, "%s on %s: %ld files, %ld folders, %ld links, %lld bytes\n", kToolNames[tool],
                                 packing, got.files, got.folders, got.symlinks, got.bytes);
                         ok = false;
                     }
@@ -197,7 +197,7 @@ public:
         printf("%-8s %7s %7s %8s  %8s %9s %10s  %8s %9s  %8s %9s %10s\n", "format", "ours s", "plain s",
                "bsdtar s", "ours/bsd", "plain/bsd", "ours/plain", "ours cpu", "plain cpu", "ours MiB", "plain MiB",
                "bsdtar MiB");
-        for (const char* packing : PACKINGS) {
+        for (const char* packing : kPackings) {
             double wall[TOOLS];
             double cpu[TOOLS];
             double rss[TOOLS];
@@ -264,7 +264,7 @@ int main(int argc, char** argv)
 
     printf("Package: %ld files, %ld folders, %ld symlinks, %.1f MiB of file data\nArchives:", expected.files,
            expected.folders, expected.symlinks, mib(static_cast<double>(expected.bytes)));
-    for (const char* packing : PACKINGS)
+    for (const char* packing : kPackings)
         printf(" %s %.1f MiB", packing, mib(static_cast<double>(fs::file_size(data + "/package." + packing))));
     rusage self{};
     getrusage(RUSAGE_SELF, &self);

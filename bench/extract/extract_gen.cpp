@@ -23,8 +23,8 @@ namespace {
 
 using dwtest::Entry;
 
-const char VERSION[] = "extract_gen 1";
-const char* const PACKINGS[] = {"tar", "tar.gz", "tar.zst", "zip"};
+const char kVersion[] = "extract_gen 1";
+const char* const kPackings[] = {"tar", "tar.gz", "tar.zst", "zip"};
 
 // splitmix64: fast, and the same sequence on every machine.
 class Rng {
@@ -63,7 +63,7 @@ public:
                 w += static_cast<char>('a' + rng_.next() % 26);
             words_.push_back(w);
         }
-        for (const char* packing : PACKINGS)
+        for (const char* packing : kPackings)
             open(dir + "/package." + packing, packing);
     }
 
@@ -283,7 +283,7 @@ bool up_to_date(const std::string& stats_path)
 {
     std::ifstream in(stats_path);
     std::string first;
-    return std::getline(in, first) && first == VERSION;
+    return std::getline(in, first) && first == kVersion;
 }
 
 }  // namespace
@@ -306,7 +306,7 @@ int main(int argc, char** argv)
         return 1;
     // Written last: its presence means the archives are complete.
     std::ofstream out(stats_path);
-    out << VERSION << "\n"
+    out << kVersion << "\n"
         << package.stats.files << " " << package.stats.folders << " " << package.stats.symlinks << " "
         << package.stats.bytes << "\n";
     return out.good() ? 0 : 1;

@@ -9,7 +9,7 @@
 
 namespace {
 
-const int DISK_OPTIONS = ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA |
+const int kDiskOptions = ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA |
                          ARCHIVE_EXTRACT_SECURE_SYMLINKS;
 
 archive* open_reader(const char* path)
@@ -47,7 +47,7 @@ int main(int argc, char** argv)
         return 1;
 
     archive* w = archive_write_disk_new();
-    archive_write_disk_set_options(w, DISK_OPTIONS);
+    archive_write_disk_set_options(w, kDiskOptions);
     const std::string prefix = std::string(argv[2]) + "/";
     int result = 0;
     int status;

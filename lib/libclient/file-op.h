@@ -1,8 +1,8 @@
 // File operations on ustring paths. Results are plain integers (0 success,
 // negative failure, codes per function) or booleans; nothing throws.
 // Messages go to the logger under "file_op_debug".
-#ifndef FILE_OP_H
-#define FILE_OP_H
+#ifndef DW_LIB_LIBCLIENT_FILE_OP_H
+#define DW_LIB_LIBCLIENT_FILE_OP_H
 
 #include <dirent.h>
 #include <sys/types.h>

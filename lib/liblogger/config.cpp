@@ -8,7 +8,7 @@ namespace {
 
 // fgets buffer: a physical line longer than LINE_BUF - 1 bytes is parsed as
 // several lines. Part of the file format, not a tuning knob.
-const int LINE_BUF = 8192;
+const int kLineBufferSize = 8192;
 
 // Tab, line feed, vertical tab, form feed, carriage return, space; fixed here
 // so the process locale cannot change what the parser accepts.
@@ -88,7 +88,7 @@ int Config::read(const ustring& path)
     if (fp == nullptr)
         return -1;
 
-    char line[LINE_BUF];
+    char line[kLineBufferSize];
     int result = 0;
     ustring key, value;
     while (std::fgets(line, sizeof line, fp) != nullptr) {

@@ -1,7 +1,7 @@
 // Config: strict reader of key = value files (pid file, log level file).
 // One malformed line makes the whole file unreadable: entries are emptied.
-#ifndef CONFIG_H
-#define CONFIG_H
+#ifndef DW_LIB_LIBLOGGER_CONFIG_H
+#define DW_LIB_LIBLOGGER_CONFIG_H
 
 #include <map>
 

@@ -17,12 +17,12 @@
 namespace {
 
 // Rotation happens once the counted size is strictly greater than this.
-const int MAX_LOG_SIZE = 1048576;
+const int kMaxLogSize = 1048576;
 // Threshold of a component that is not in log_level; no fall-back to
 // "default_component".
-const int DEFAULT_THRESHOLD = 4;
+const int kDefaultThreshold = 4;
 // Logger::LOG_WARNING, which syslog's macro of that name (the same number) hides here.
-const Logger::Level WARNING = static_cast<Logger::Level>(4);
+const Logger::Level kWarning = static_cast<Logger::Level>(4);
 
 // log_fp is tested without the lock (LogMsg2's fast path), so every store and
 // that one load are atomic; all other uses happen under log_lock.
@@ -187,17 +187,17 @@ pthread_mutex_t Logger::log_lock = PTHREAD_MUTEX_INITIALIZER;
 
 int Logger::Initialize(Type type, const ustring& path, const ustring& level_path, int rotate_count)
 {
-    log_level["default_component"] = DEFAULT_THRESHOLD;
+    log_level["default_component"] = kDefaultThreshold;
     const LevelFileProblem problem = apply_level_file(level_path);
     const int result = open_destination(type, path, rotate_count);
     // Said once the destination is open: thresholds the file meant to set
     // are not in force.
     if (problem.malformed)
-        LogMsg(WARNING, "default_component",
+        LogMsg(kWarning, "default_component",
                "[WARNING] log(%d): level file '%s' is malformed, default levels apply\n", __LINE__,
                level_path.c_str_utf8());
     if (!problem.not_a_number.empty())
-        LogMsg(WARNING, "default_component",
+        LogMsg(kWarning, "default_component",
                "[WARNING] log(%d): level file '%s': level of '%s' is not a number, read as %d\n",
                __LINE__, level_path.c_str_utf8(), problem.not_a_number.c_str_utf8(), problem.read_as);
     return result;
@@ -253,7 +253,7 @@ void Logger::LogMsg2(Level level, const ustring& component, const char* format, 
 
     LogLockGuard guard;
     auto found = log_level.find(component);
-    const int threshold = found != log_level.end() ? found->second : DEFAULT_THRESHOLD;
+    const int threshold = found != log_level.end() ? found->second : kDefaultThreshold;
     if (threshold < level)
         return;
 
@@ -279,7 +279,7 @@ void Logger::LogMsg2(Level level, const ustring& component, const char* format, 
 
     if (log_type == LOG_TYPE_FILE && log_size >= 0 && count >= 0) {
         log_size += count;
-        if (log_size > MAX_LOG_SIZE) {
+        if (log_size > kMaxLogSize) {
             // Whatever Rotate returns: on failure log_fp is null and nothing
             // more gets written anyway.
             Rotate();

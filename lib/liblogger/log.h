@@ -4,8 +4,8 @@
 // Several processes may share one log file: writes and rotations take a lock
 // on the log's folder, and a process whose file another one rotated goes on in
 // the new live file, its size count starting at 0 there.
-#ifndef LOG_H
-#define LOG_H
+#ifndef DW_LIB_LIBLOGGER_LOG_H
+#define DW_LIB_LIBLOGGER_LOG_H
 
 #include <pthread.h>
 #include <cstdarg>

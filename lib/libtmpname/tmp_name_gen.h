@@ -1,8 +1,8 @@
 // Short random names for temporary files: an RC4 keystream keyed by the time
 // of day at first use, eight characters at a time in a file-name-safe
 // 64-character alphabet. Names only: nothing is created or checked on disk.
-#ifndef TMP_NAME_GEN_H
-#define TMP_NAME_GEN_H
+#ifndef DW_LIB_LIBTMPNAME_TMP_NAME_GEN_H
+#define DW_LIB_LIBTMPNAME_TMP_NAME_GEN_H
 
 #include <pthread.h>
 

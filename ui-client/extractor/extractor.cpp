@@ -19,17 +19,17 @@
 
 namespace {
 
-const char COMPONENT[] = "extractor_debug";
+const char kComponent[] = "extractor_debug";
 
 // Read granularity for archive_read_open_filename.
-const size_t BLOCK_SIZE = 10240;
+const size_t kBlockSize = 10240;
 
 // 0x2210: unlink what is in an entry's place, refuse ".." components, restore
 // Mac metadata. SECURE_SYMLINKS on top: a package entry "lnk -> /elsewhere"
 // followed by "lnk/file" must not write to /elsewhere; together with UNLINK the
 // disk writer removes such an intermediate link instead of following it.
 // Owners, permissions and times are deliberately not restored.
-const int DISK_OPTIONS = ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT |
+const int kDiskOptions = ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT |
                          ARCHIVE_EXTRACT_MAC_METADATA | ARCHIVE_EXTRACT_SECURE_SYMLINKS;
 
 struct ReadFree {
@@ -47,7 +47,7 @@ int fail(const char* format, ...)
 {
     va_list args;
     va_start(args, format);
-    Logger::LogMsg2(Logger::LOG_ERROR, COMPONENT, format, args);
+    Logger::LogMsg2(Logger::LOG_ERROR, kComponent, format, args);
     va_end(args);
     return -1;
 }
@@ -77,7 +77,7 @@ int open_reader(archive* reader, const ustring& path)
     archive_read_support_filter_all(reader);
     for (auto support : FORMATS)
         support(reader);
-    return archive_read_open_filename(reader, path.c_str_utf8(), BLOCK_SIZE);
+    return archive_read_open_filename(reader, path.c_str_utf8(), kBlockSize);
 }
 
 // Whether path is an mtree manifest. Opening only looks at the first bytes;
@@ -89,7 +89,7 @@ bool is_mtree(const ustring& path)
         return false;
     archive_read_support_filter_all(probe.get());
     archive_read_support_format_mtree(probe.get());
-    return archive_read_open_filename(probe.get(), path.c_str_utf8(), BLOCK_SIZE) == ARCHIVE_OK;
+    return archive_read_open_filename(probe.get(), path.c_str_utf8(), kBlockSize) == ARCHIVE_OK;
 }
 
 // Opens archive_path for a headers-only pass (Count, List, and Extract's
@@ -179,7 +179,7 @@ public:
     {
         written_ = done;
         const int total = total_.load(std::memory_order_acquire);
-        if (total == UNKNOWN)
+        if (total == kUnknown)
             return true;
         send(total);
         return total > 0;
@@ -198,7 +198,7 @@ public:
     }
 
 private:
-    static constexpr int UNKNOWN = -2;
+    static constexpr int kUnknown = -2;
 
     static void* run(void* self)
     {
@@ -218,7 +218,7 @@ private:
     ReadHandle reader_;
     pthread_t thread_{};
     bool running_ = false;
-    std::atomic<int> total_{UNKNOWN};
+    std::atomic<int> total_{kUnknown};
     int written_ = 0;
     int sent_ = 0;
 };
@@ -255,7 +255,7 @@ int Extractor::Extract()
 {
     if (archive_path.empty() || dest_path.empty())
         return fail("[ERROR] extractor(%d): Invalid Argument\n", __LINE__);
-    Logger::LogMsg(Logger::LOG_DEBUG, COMPONENT, "[DEBUG] extractor(%d): decompress from '%s' to '%s'\n", __LINE__,
+    Logger::LogMsg(Logger::LOG_DEBUG, kComponent, "[DEBUG] extractor(%d): decompress from '%s' to '%s'\n", __LINE__,
                    archive_path.c_str(), dest_path.c_str());
     Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(StrTable::kIdPreparing));
 
@@ -289,7 +289,7 @@ int Extractor::Extract()
     WriteHandle writer(archive_write_disk_new());
     if (!writer)
         return counted_failure() ? -1 : fail("[ERROR] extractor(%d): Allocate extractor failed\n", __LINE__);
-    archive_write_disk_set_options(writer.get(), DISK_OPTIONS);
+    archive_write_disk_set_options(writer.get(), kDiskOptions);
     if (open_reader(reader.get(), archive_path) != ARCHIVE_OK)
         return counted_failure() ? -1
                                  : fail("[ERROR] extractor(%d): Failed to read file '%s' ('%s')\n", __LINE__,

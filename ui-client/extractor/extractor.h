@@ -12,8 +12,8 @@
 // Entries written before a failure stay on disk. Any format libarchive reads,
 // but an mtree manifest, which names files of this machine instead of
 // carrying them.
-#ifndef EXTRACTOR_H
-#define EXTRACTOR_H
+#ifndef DW_UI_CLIENT_EXTRACTOR_EXTRACTOR_H
+#define DW_UI_CLIENT_EXTRACTOR_EXTRACTOR_H
 
 #include "ustring.h"
 

@@ -6,8 +6,8 @@
 // automatic (here: queued) connections, in emission order. The progress dialog
 // (processing_progress_dialog.h) exists only on the upgrade path: it is made
 // when the worker asks for it.
-#ifndef LAUNCHER_H
-#define LAUNCHER_H
+#ifndef DW_UI_CLIENT_LAUNCHER_LAUNCHER_H
+#define DW_UI_CLIENT_LAUNCHER_LAUNCHER_H
 
 #include <QObject>
 #include <QString>

@@ -5,8 +5,8 @@
 // the object is destroyed. A lock left by a launcher that died is taken over at
 // once: the holder's process id is checked, not the lock's age.
 // Needs the application object (for the executable's path).
-#ifndef SINGLE_INSTANCE_H
-#define SINGLE_INSTANCE_H
+#ifndef DW_UI_CLIENT_LAUNCHER_SINGLE_INSTANCE_H
+#define DW_UI_CLIENT_LAUNCHER_SINGLE_INSTANCE_H
 
 #include <QLockFile>
 #include <QString>

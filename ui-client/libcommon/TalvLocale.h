@@ -1,6 +1,6 @@
 // TalvLocale: the user interface language as a three-letter code.
-#ifndef TALVLOCALE_H
-#define TALVLOCALE_H
+#ifndef DW_UI_CLIENT_LIBCOMMON_TALVLOCALE_H
+#define DW_UI_CLIENT_LIBCOMMON_TALVLOCALE_H
 
 #include <QString>
 #include <QStringList>

@@ -1,7 +1,7 @@
 // StrTable: every user-visible text by id (0 to 599), translated through the
 // installed catalogue with context "global" and the English text as source.
-#ifndef STRTABLE_H
-#define STRTABLE_H
+#ifndef DW_UI_CLIENT_LOCALISATION_STRTABLE_H
+#define DW_UI_CLIENT_LOCALISATION_STRTABLE_H
 
 #include <QString>
 

@@ -1,8 +1,8 @@
 // Notify_Adapter: the bridge through which code in the worker thread reports
 // progress and dialog text. It only emits; receivers connect with automatic
 // connections, so reports reach the UI thread as queued calls in order.
-#ifndef NOTIFY_ADAPTER_H
-#define NOTIFY_ADAPTER_H
+#ifndef DW_UI_CLIENT_NOTIFY_NOTIFY_ADAPTER_H
+#define DW_UI_CLIENT_NOTIFY_NOTIFY_ADAPTER_H
 
 #include <QObject>
 #include <QString>

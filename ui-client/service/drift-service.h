@@ -1,7 +1,7 @@
 // Service: the installation service interface and its shared implementation:
 // install locations, version records, rebuilding the per-user copy.
-#ifndef DRIFT_SERVICE_H
-#define DRIFT_SERVICE_H
+#ifndef DW_UI_CLIENT_SERVICE_DRIFT_SERVICE_H
+#define DW_UI_CLIENT_SERVICE_DRIFT_SERVICE_H
 
 #include <cstdint>
 

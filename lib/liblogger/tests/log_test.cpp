@@ -22,15 +22,15 @@ using dwtest::ReadFile;
 using dwtest::WriteFile;
 
 // "%b %d %H:%M:%S " in the C locale, e.g. "Nov 16 20:37:07 ": always 16 bytes.
-const size_t STAMP_LEN = 16;
+const size_t kStampLength = 16;
 
 bool has_stamp(const std::string& line)
 {
     const std::string shape = "MMM 00 00:00:00 ", months = "JanFebMarAprMayJunJulAugSepOctNovDec";
     const size_t month = months.find(line.substr(0, 3));
-    if (line.size() < STAMP_LEN || month == std::string::npos || month % 3 != 0)
+    if (line.size() < kStampLength || month == std::string::npos || month % 3 != 0)
         return false;
-    for (size_t i = 3; i < STAMP_LEN; ++i)
+    for (size_t i = 3; i < kStampLength; ++i)
         if (shape[i] == '0' ? !isdigit(static_cast<unsigned char>(line[i])) : line[i] != shape[i])
             return false;
     return true;
@@ -46,7 +46,7 @@ std::vector<std::string> messages_of(const std::string& path)
         end = text.find('\n', start);
         end = end == std::string::npos ? text.size() : end + 1;
         const std::string line = text.substr(start, end - start);
-        out.push_back(has_stamp(line) ? line.substr(STAMP_LEN) : "no time stamp: " + line);
+        out.push_back(has_stamp(line) ? line.substr(kStampLength) : "no time stamp: " + line);
     }
     return out;
 }
@@ -162,7 +162,7 @@ TEST_F(LoggerTest, RotatesOnlyPastOneMebibyteKeepingRotateCountFiles)
     // 1,024 lines of 1,024 bytes reach exactly 1 MiB, which does not rotate yet.
     auto line = [](int i) {
         std::string text = "[WARNING] log_test(" + std::to_string(i) + "): ";
-        return text + std::string(1024 - STAMP_LEN - 1 - text.size(), 'x') + "\n";
+        return text + std::string(1024 - kStampLength - 1 - text.size(), 'x') + "\n";
     };
     for (int i = 1; i <= 1024; ++i)
         Logger::LogMsg(Logger::LOG_WARNING, "c", "%s", line(i).c_str());
@@ -284,7 +284,7 @@ TEST_P(LoggerProcesses, SharingTheLogLoseNoLineAndKeepTheirOwnCounts)
             ASSERT_EQ(sscanf(message.c_str(), "[WARNING] w%d(%d): %n", &w, &i, &text_start), 2) << f << ": " << message;
             ASSERT_EQ(message.substr(text_start), std::string(80, 'p') + "\n") << f << ": " << message;
             seen.insert({w, i});
-            bytes[st.st_ino][w] += static_cast<long>(STAMP_LEN + message.size());
+            bytes[st.st_ino][w] += static_cast<long>(kStampLength + message.size());
         }
         // An archive was rotated by a process whose own count passed 1 MiB in it.
         long most = 0;

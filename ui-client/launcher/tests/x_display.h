@@ -1,8 +1,8 @@
 // A private X server (Xvfb) and what a user or a window manager does to the
 // launcher's windows on it. Kept apart from the tests: Xlib's macros (None,
 // Status, Bool) clash with other headers.
-#ifndef X_DISPLAY_H
-#define X_DISPLAY_H
+#ifndef DW_UI_CLIENT_LAUNCHER_TESTS_X_DISPLAY_H
+#define DW_UI_CLIENT_LAUNCHER_TESTS_X_DISPLAY_H
 
 #include <QProcess>
 #include <QString>

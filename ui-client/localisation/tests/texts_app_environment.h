@@ -1,8 +1,8 @@
 // A gtest environment for tests of the catalogues: an application object (for
 // translators and QProcess), the resource collection "texts" registered and
 // the string table filled.
-#ifndef TEXTS_APP_ENVIRONMENT_H
-#define TEXTS_APP_ENVIRONMENT_H
+#ifndef DW_UI_CLIENT_LOCALISATION_TESTS_TEXTS_APP_ENVIRONMENT_H
+#define DW_UI_CLIENT_LOCALISATION_TESTS_TEXTS_APP_ENVIRONMENT_H
 
 #include "strtable.h"
 

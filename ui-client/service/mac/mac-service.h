@@ -1,6 +1,6 @@
 // MacService: stops and starts the per-user client and decides upgrades.
-#ifndef MAC_SERVICE_H
-#define MAC_SERVICE_H
+#ifndef DW_UI_CLIENT_SERVICE_MAC_MAC_SERVICE_H
+#define DW_UI_CLIENT_SERVICE_MAC_MAC_SERVICE_H
 
 #include <sys/types.h>
 
