@@ -6,12 +6,12 @@
 #include <cstdio>
 #include <cstdlib>
 
-#define CHECK(cond)                                                                                    \
-    do {                                                                                               \
-        if (!(cond)) {                                                                                 \
-            fprintf(stderr, "%s:%d: check failed: %s\n", __FILE__, __LINE__, #cond);                   \
-            abort();                                                                                   \
-        }                                                                                              \
+#define CHECK(cond)                                                                                          \
+    do {                                                                                                     \
+        if (!(cond)) {                                                                                       \
+            fprintf(stderr, "%s:%d: check failed: %s\n", __FILE__, __LINE__, #cond);                         \
+            abort();                                                                                         \
+        }                                                                                                    \
     } while (0)
 
 #endif

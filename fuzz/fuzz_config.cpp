@@ -17,7 +17,10 @@ namespace {
 
 std::string g_path;
 
-void remove_file() { unlink(g_path.c_str()); }
+void remove_file()
+{
+    unlink(g_path.c_str());
+}
 
 bool is_key(const ustring& key)
 {

@@ -77,7 +77,10 @@ void remove_tree(const std::string& path)
     CHECK(!ec);
 }
 
-void remove_root() { remove_tree(g_root); }
+void remove_root()
+{
+    remove_tree(g_root);
+}
 
 // libarchive is not instrumented: libFuzzer sees only our code, which takes
 // the same few paths for most inputs. What the library made of an input is
@@ -106,13 +109,12 @@ void library_features(const std::string& path)
 {
     archive* a = archive_read_new();
     archive_read_support_filter_all(a);
-    for (auto support : {archive_read_support_format_7zip, archive_read_support_format_ar,
-                         archive_read_support_format_cab, archive_read_support_format_cpio,
-                         archive_read_support_format_empty, archive_read_support_format_iso9660,
-                         archive_read_support_format_lha, archive_read_support_format_rar,
-                         archive_read_support_format_rar5, archive_read_support_format_tar,
-                         archive_read_support_format_warc, archive_read_support_format_xar,
-                         archive_read_support_format_zip})
+    for (auto support :
+         {archive_read_support_format_7zip, archive_read_support_format_ar, archive_read_support_format_cab,
+          archive_read_support_format_cpio, archive_read_support_format_empty,
+          archive_read_support_format_iso9660, archive_read_support_format_lha,
+          archive_read_support_format_rar, archive_read_support_format_rar5, archive_read_support_format_tar,
+          archive_read_support_format_warc, archive_read_support_format_xar, archive_read_support_format_zip})
         support(a);
     int r = archive_read_open_filename(a, path.c_str(), 10240);
     archive_entry* entry = nullptr;
@@ -122,7 +124,8 @@ void library_features(const std::string& path)
         feature(1, n << 8 | static_cast<uint32_t>(r & 0xff));
         if (r == ARCHIVE_OK || r == ARCHIVE_WARN) {
             feature(2, archive_entry_filetype(entry));
-            feature(3, (archive_entry_hardlink(entry) != nullptr) | (archive_entry_symlink(entry) != nullptr) << 1 |
+            feature(3, (archive_entry_hardlink(entry) != nullptr) |
+                           (archive_entry_symlink(entry) != nullptr) << 1 |
                            archive_entry_size_is_set(entry) << 2);
             const la_ssize_t got = archive_read_data_skip(a);
             feature(4, static_cast<uint32_t>(got));

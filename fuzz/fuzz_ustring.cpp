@@ -17,10 +17,14 @@ const size_t npos = ustring::npos;
 
 bool same(const ustring& u, const std::string& s)
 {
-    return u.length() == s.size() && strlen(u.c_str()) == u.length() && memcmp(u.c_str(), s.data(), s.size()) == 0;
+    return u.length() == s.size() && strlen(u.c_str()) == u.length() &&
+           memcmp(u.c_str(), s.data(), s.size()) == 0;
 }
 
-int sign(int v) { return (v > 0) - (v < 0); }
+int sign(int v)
+{
+    return (v > 0) - (v < 0);
+}
 
 // Where ustring's rules differ from std::string's, the difference is spelled
 // out here: forward searches miss from pos >= length, backward ones miss on an

@@ -50,7 +50,9 @@ const Packing kPackings[] = {
 
 const Entry kEntries[] = {
     {Entry::Folder, "Contents", ""},
-    {Entry::File, "Contents/drift-ui", "\x7f" "ELF program"},
+    {Entry::File, "Contents/drift-ui",
+     "\x7f"
+     "ELF program"},
     {Entry::File, "Contents/INFO", "[Version]\nbuild_version=7\n"},
     {Entry::Symlink, "Contents/current", "drift-ui"},
     {Entry::Hardlink, "Contents/again", "Contents/INFO"},

@@ -146,8 +146,7 @@ bool OpenApplicationBundle(const QString& bundle_path, const QString& exe_name, 
     if (known_pid > 0 && ProcessRunsExecutable(known_pid, exe.constData()))
         return true;
     struct stat st;
-    if (stat(exe.constData(), &st) != 0 || !S_ISREG(st.st_mode) ||
-        access(exe.constData(), X_OK) != 0)
+    if (stat(exe.constData(), &st) != 0 || !S_ISREG(st.st_mode) || access(exe.constData(), X_OK) != 0)
         return false;
     return SpawnDetached(exe);
 }

@@ -19,7 +19,10 @@ namespace {
 // ICU spells UTF-16 code units char16_t; we store unsigned short. Same size and
 // representation, so the buffers are handed over as they are.
 static_assert(sizeof(UChar) == sizeof(unsigned short), "UTF-16 unit size");
-inline UChar* as_uchar(unsigned short* w) { return reinterpret_cast<UChar*>(w); }
+inline UChar* as_uchar(unsigned short* w)
+{
+    return reinterpret_cast<UChar*>(w);
+}
 
 // ICU takes int32_t capacities; a larger buffer is simply not used beyond that.
 int32_t icu_capacity(size_t units)
@@ -81,10 +84,16 @@ int compare_bytes(const char* a, size_t la, const char* b, size_t lb, size_t n)
     return 0;
 }
 
-size_t text_length(const char* p) { return p ? strlen(p) : 0; }
+size_t text_length(const char* p)
+{
+    return p ? strlen(p) : 0;
+}
 
 // A null text argument counts as empty.
-const char* or_empty(const char* p) { return p ? p : ""; }
+const char* or_empty(const char* p)
+{
+    return p ? p : "";
+}
 
 size_t units_length(const unsigned short* w, size_t n)
 {
@@ -94,10 +103,12 @@ size_t units_length(const unsigned short* w, size_t n)
     return i;
 }
 
-bool in_set(char c, const char* set, size_t n) { return n != 0 && memchr(set, c, n) != nullptr; }
+bool in_set(char c, const char* set, size_t n)
+{
+    return n != 0 && memchr(set, c, n) != nullptr;
+}
 
-template <typename T>
-bool points_into(const T* p, const T* buf, size_t size)
+template <typename T> bool points_into(const T* p, const T* buf, size_t size)
 {
     std::less<const T*> less;
     return !less(p, buf) && less(p, buf + size);
@@ -161,9 +172,15 @@ void ustring::clear_wdata() const
     wdata[0] = 0;
 }
 
-bool ustring::owns(const char* p) const { return points_into(p, data, data_size); }
+bool ustring::owns(const char* p) const
+{
+    return points_into(p, data, data_size);
+}
 
-bool ustring::owns(const unsigned short* w) const { return points_into<unsigned short>(w, wdata, wdata_size); }
+bool ustring::owns(const unsigned short* w) const
+{
+    return points_into<unsigned short>(w, wdata, wdata_size);
+}
 
 // ---- conversion ---------------------------------------------------------------
 
@@ -222,19 +239,37 @@ void ustring::ensure_wdata() const
 
 // ---- construction -------------------------------------------------------------
 
-ustring::ustring() { init(); }
+ustring::ustring()
+{
+    init();
+}
 
 // The delegating forms count as constructed once ustring() returns, so a throw
 // from the append below still frees the buffers.
-ustring::ustring(const ustring& s) : ustring() { append(s.c_str(), s.length()); }
+ustring::ustring(const ustring& s) : ustring()
+{
+    append(s.c_str(), s.length());
+}
 
-ustring::ustring(const char* p) : ustring() { append(p); }
+ustring::ustring(const char* p) : ustring()
+{
+    append(p);
+}
 
-ustring::ustring(const unsigned short* w) : ustring() { append(w); }
+ustring::ustring(const unsigned short* w) : ustring()
+{
+    append(w);
+}
 
-ustring::ustring(const std::string& s) : ustring() { append(s.c_str()); }
+ustring::ustring(const std::string& s) : ustring()
+{
+    append(s.c_str());
+}
 
-ustring::ustring(char c) : ustring() { append(c, 1); }
+ustring::ustring(char c) : ustring()
+{
+    append(c, 1);
+}
 
 ustring::~ustring()
 {
@@ -261,7 +296,10 @@ ustring& ustring::assign(const std::string& s, size_t pos, size_t n)
     return append(s, pos, n);
 }
 
-ustring& ustring::assign(const char* p) { return assign(p, npos); }
+ustring& ustring::assign(const char* p)
+{
+    return assign(p, npos);
+}
 
 ustring& ustring::assign(const char* p, size_t n)
 {
@@ -281,7 +319,10 @@ ustring& ustring::assign(const char* p, size_t n)
     return append(p, n);
 }
 
-ustring& ustring::assign(const unsigned short* w) { return assign(w, npos); }
+ustring& ustring::assign(const unsigned short* w)
+{
+    return assign(w, npos);
+}
 
 ustring& ustring::assign(const unsigned short* w, size_t n)
 {
@@ -318,11 +359,26 @@ ustring& ustring::operator=(const ustring& s)
     return assign(s, 0, npos);
 }
 
-ustring& ustring::operator=(const std::string& s) { return assign(s.c_str()); }
-ustring& ustring::operator=(const char* p) { return assign(p); }
-ustring& ustring::operator=(const unsigned short* w) { return assign(w); }
-ustring& ustring::operator=(char c) { return assign(c, 1); }
-ustring& ustring::operator=(unsigned short c) { return assign(c, 1); }
+ustring& ustring::operator=(const std::string& s)
+{
+    return assign(s.c_str());
+}
+ustring& ustring::operator=(const char* p)
+{
+    return assign(p);
+}
+ustring& ustring::operator=(const unsigned short* w)
+{
+    return assign(w);
+}
+ustring& ustring::operator=(char c)
+{
+    return assign(c, 1);
+}
+ustring& ustring::operator=(unsigned short c)
+{
+    return assign(c, 1);
+}
 
 void ustring::clear()
 {
@@ -340,11 +396,17 @@ void ustring::swap(ustring& other)
     std::swap(wdata_size, other.wdata_size);
 }
 
-void swap(ustring& a, ustring& b) { a.swap(b); }
+void swap(ustring& a, ustring& b)
+{
+    a.swap(b);
+}
 
 // ---- appending ------------------------------------------------------------------
 
-ustring& ustring::append(const char* p) { return append(p, npos); }
+ustring& ustring::append(const char* p)
+{
+    return append(p, npos);
+}
 
 ustring& ustring::append(const char* p, size_t n)
 {
@@ -372,9 +434,15 @@ ustring& ustring::append_bytes(const char* p, size_t n)
     return *this;
 }
 
-ustring& ustring::append(const unsigned short* w) { return append(w, npos); }
+ustring& ustring::append(const unsigned short* w)
+{
+    return append(w, npos);
+}
 
-ustring& ustring::append(const unsigned short* w, size_t n) { return append_units(w, n); }
+ustring& ustring::append(const unsigned short* w, size_t n)
+{
+    return append_units(w, n);
+}
 
 // Adds at most n units of w (up to its NUL) on the UTF-16 side. When w is our
 // own cache, it is read again after the cache was built and grown.
@@ -435,18 +503,51 @@ ustring& ustring::append(const std::string& s, size_t pos, size_t n)
     return append(part.c_str());
 }
 
-ustring& ustring::operator+=(const ustring& s) { return append(s.c_str(), s.length()); }
-ustring& ustring::operator+=(const std::string& s) { return append(s.c_str()); }
-ustring& ustring::operator+=(const char* p) { return append(p); }
-ustring& ustring::operator+=(const unsigned short* w) { return append(w); }
-ustring& ustring::operator+=(char c) { return append(c, 1); }
-ustring& ustring::operator+=(unsigned short c) { return append(c, 1); }
+ustring& ustring::operator+=(const ustring& s)
+{
+    return append(s.c_str(), s.length());
+}
+ustring& ustring::operator+=(const std::string& s)
+{
+    return append(s.c_str());
+}
+ustring& ustring::operator+=(const char* p)
+{
+    return append(p);
+}
+ustring& ustring::operator+=(const unsigned short* w)
+{
+    return append(w);
+}
+ustring& ustring::operator+=(char c)
+{
+    return append(c, 1);
+}
+ustring& ustring::operator+=(unsigned short c)
+{
+    return append(c, 1);
+}
 
-ustring operator+(const ustring& a, const ustring& b) { return ustring(a) += b; }
-ustring operator+(const ustring& a, const char* b) { return ustring(a) += b; }
-ustring operator+(const ustring& a, char b) { return ustring(a) += b; }
-ustring operator+(const ustring& a, const unsigned short* b) { return ustring(a) += b; }
-ustring operator+(const ustring& a, unsigned short b) { return ustring(a) += b; }
+ustring operator+(const ustring& a, const ustring& b)
+{
+    return ustring(a) += b;
+}
+ustring operator+(const ustring& a, const char* b)
+{
+    return ustring(a) += b;
+}
+ustring operator+(const ustring& a, char b)
+{
+    return ustring(a) += b;
+}
+ustring operator+(const ustring& a, const unsigned short* b)
+{
+    return ustring(a) += b;
+}
+ustring operator+(const ustring& a, unsigned short b)
+{
+    return ustring(a) += b;
+}
 
 // ---- access -----------------------------------------------------------------------
 
@@ -484,7 +585,10 @@ size_t ustring::find_seq(const char* s, size_t n, size_t pos) const
     return npos;
 }
 
-size_t ustring::backward_start(size_t pos) const { return pos >= data_len ? data_len - 1 : pos; }
+size_t ustring::backward_start(size_t pos) const
+{
+    return pos >= data_len ? data_len - 1 : pos;
+}
 
 size_t ustring::rfind_seq(const char* s, size_t n, size_t pos) const
 {
@@ -518,41 +622,107 @@ size_t ustring::rfind_set(const char* set, size_t n, size_t pos, bool member) co
     return npos;
 }
 
-size_t ustring::find(const std::string& s, size_t pos) const { return find(s.c_str(), pos); }
-size_t ustring::find(const char* s, size_t pos) const { return find_seq(or_empty(s), text_length(s), pos); }
-size_t ustring::find(const ustring& s, size_t pos) const { return find_seq(s.data, s.data_len, pos); }
-size_t ustring::find(char c, size_t pos) const { return find_seq(&c, 1, pos); }
+size_t ustring::find(const std::string& s, size_t pos) const
+{
+    return find(s.c_str(), pos);
+}
+size_t ustring::find(const char* s, size_t pos) const
+{
+    return find_seq(or_empty(s), text_length(s), pos);
+}
+size_t ustring::find(const ustring& s, size_t pos) const
+{
+    return find_seq(s.data, s.data_len, pos);
+}
+size_t ustring::find(char c, size_t pos) const
+{
+    return find_seq(&c, 1, pos);
+}
 
-size_t ustring::rfind(const std::string& s, size_t pos) const { return rfind(s.c_str(), pos); }
-size_t ustring::rfind(const char* s, size_t pos) const { return rfind_seq(or_empty(s), text_length(s), pos); }
-size_t ustring::rfind(const ustring& s, size_t pos) const { return rfind_seq(s.data, s.data_len, pos); }
-size_t ustring::rfind(char c, size_t pos) const { return rfind_seq(&c, 1, pos); }
+size_t ustring::rfind(const std::string& s, size_t pos) const
+{
+    return rfind(s.c_str(), pos);
+}
+size_t ustring::rfind(const char* s, size_t pos) const
+{
+    return rfind_seq(or_empty(s), text_length(s), pos);
+}
+size_t ustring::rfind(const ustring& s, size_t pos) const
+{
+    return rfind_seq(s.data, s.data_len, pos);
+}
+size_t ustring::rfind(char c, size_t pos) const
+{
+    return rfind_seq(&c, 1, pos);
+}
 
-size_t ustring::find_first_of(const std::string& s, size_t pos) const { return find_first_of(s.c_str(), pos); }
-size_t ustring::find_first_of(const char* s, size_t pos) const { return find_set(s, text_length(s), pos, true); }
-size_t ustring::find_first_of(const ustring& s, size_t pos) const { return find_set(s.data, s.data_len, pos, true); }
-size_t ustring::find_first_of(char c, size_t pos) const { return find_set(&c, 1, pos, true); }
+size_t ustring::find_first_of(const std::string& s, size_t pos) const
+{
+    return find_first_of(s.c_str(), pos);
+}
+size_t ustring::find_first_of(const char* s, size_t pos) const
+{
+    return find_set(s, text_length(s), pos, true);
+}
+size_t ustring::find_first_of(const ustring& s, size_t pos) const
+{
+    return find_set(s.data, s.data_len, pos, true);
+}
+size_t ustring::find_first_of(char c, size_t pos) const
+{
+    return find_set(&c, 1, pos, true);
+}
 
-size_t ustring::find_first_not_of(const std::string& s, size_t pos) const { return find_first_not_of(s.c_str(), pos); }
-size_t ustring::find_first_not_of(const char* s, size_t pos) const { return find_set(s, text_length(s), pos, false); }
+size_t ustring::find_first_not_of(const std::string& s, size_t pos) const
+{
+    return find_first_not_of(s.c_str(), pos);
+}
+size_t ustring::find_first_not_of(const char* s, size_t pos) const
+{
+    return find_set(s, text_length(s), pos, false);
+}
 size_t ustring::find_first_not_of(const ustring& s, size_t pos) const
 {
     return find_set(s.data, s.data_len, pos, false);
 }
-size_t ustring::find_first_not_of(char c, size_t pos) const { return find_set(&c, 1, pos, false); }
+size_t ustring::find_first_not_of(char c, size_t pos) const
+{
+    return find_set(&c, 1, pos, false);
+}
 
-size_t ustring::find_last_of(const std::string& s, size_t pos) const { return find_last_of(s.c_str(), pos); }
-size_t ustring::find_last_of(const char* s, size_t pos) const { return rfind_set(s, text_length(s), pos, true); }
-size_t ustring::find_last_of(const ustring& s, size_t pos) const { return rfind_set(s.data, s.data_len, pos, true); }
-size_t ustring::find_last_of(char c, size_t pos) const { return rfind_set(&c, 1, pos, true); }
+size_t ustring::find_last_of(const std::string& s, size_t pos) const
+{
+    return find_last_of(s.c_str(), pos);
+}
+size_t ustring::find_last_of(const char* s, size_t pos) const
+{
+    return rfind_set(s, text_length(s), pos, true);
+}
+size_t ustring::find_last_of(const ustring& s, size_t pos) const
+{
+    return rfind_set(s.data, s.data_len, pos, true);
+}
+size_t ustring::find_last_of(char c, size_t pos) const
+{
+    return rfind_set(&c, 1, pos, true);
+}
 
-size_t ustring::find_last_not_of(const std::string& s, size_t pos) const { return find_last_not_of(s.c_str(), pos); }
-size_t ustring::find_last_not_of(const char* s, size_t pos) const { return rfind_set(s, text_length(s), pos, false); }
+size_t ustring::find_last_not_of(const std::string& s, size_t pos) const
+{
+    return find_last_not_of(s.c_str(), pos);
+}
+size_t ustring::find_last_not_of(const char* s, size_t pos) const
+{
+    return rfind_set(s, text_length(s), pos, false);
+}
 size_t ustring::find_last_not_of(const ustring& s, size_t pos) const
 {
     return rfind_set(s.data, s.data_len, pos, false);
 }
-size_t ustring::find_last_not_of(char c, size_t pos) const { return rfind_set(&c, 1, pos, false); }
+size_t ustring::find_last_not_of(char c, size_t pos) const
+{
+    return rfind_set(&c, 1, pos, false);
+}
 
 // ---- editing in place -------------------------------------------------------------
 
@@ -575,12 +745,30 @@ ustring& ustring::trim_set(const char* set, size_t n, bool left, bool right)
     return *this;
 }
 
-ustring& ustring::ltrim(const char* set) { return trim_set(set, text_length(set), true, false); }
-ustring& ustring::ltrim(const ustring& set) { return trim_set(set.data, set.data_len, true, false); }
-ustring& ustring::rtrim(const char* set) { return trim_set(set, text_length(set), false, true); }
-ustring& ustring::rtrim(const ustring& set) { return trim_set(set.data, set.data_len, false, true); }
-ustring& ustring::trim(const char* set) { return trim_set(set, text_length(set), true, true); }
-ustring& ustring::trim(const ustring& set) { return trim_set(set.data, set.data_len, true, true); }
+ustring& ustring::ltrim(const char* set)
+{
+    return trim_set(set, text_length(set), true, false);
+}
+ustring& ustring::ltrim(const ustring& set)
+{
+    return trim_set(set.data, set.data_len, true, false);
+}
+ustring& ustring::rtrim(const char* set)
+{
+    return trim_set(set, text_length(set), false, true);
+}
+ustring& ustring::rtrim(const ustring& set)
+{
+    return trim_set(set.data, set.data_len, false, true);
+}
+ustring& ustring::trim(const char* set)
+{
+    return trim_set(set, text_length(set), true, true);
+}
+ustring& ustring::trim(const ustring& set)
+{
+    return trim_set(set.data, set.data_len, true, true);
+}
 
 ustring& ustring::replace(char from, char to)
 {
@@ -591,21 +779,45 @@ ustring& ustring::replace(char from, char to)
 
 // ---- comparison -----------------------------------------------------------------------
 
-int ustring::compare(const ustring& s) const { return compare_bytes(data, data_len, s.data, s.data_len, npos); }
+int ustring::compare(const ustring& s) const
+{
+    return compare_bytes(data, data_len, s.data, s.data_len, npos);
+}
 
-int ustring::compare(const ustring& s, size_t n) const { return compare_bytes(data, data_len, s.data, s.data_len, n); }
+int ustring::compare(const ustring& s, size_t n) const
+{
+    return compare_bytes(data, data_len, s.data, s.data_len, n);
+}
 
 int ustring::compare(const ustring& a, const ustring& b, bool ignore_case)
 {
     return ignore_case ? str_case_cmp(a.data, b.data) : a.compare(b);
 }
 
-bool operator==(const ustring& a, const ustring& b) { return a.compare(b) == 0; }
-bool operator!=(const ustring& a, const ustring& b) { return a.compare(b) != 0; }
-bool operator<(const ustring& a, const ustring& b) { return a.compare(b) < 0; }
-bool operator>(const ustring& a, const ustring& b) { return a.compare(b) > 0; }
-bool operator<=(const ustring& a, const ustring& b) { return a.compare(b) <= 0; }
-bool operator>=(const ustring& a, const ustring& b) { return a.compare(b) >= 0; }
+bool operator==(const ustring& a, const ustring& b)
+{
+    return a.compare(b) == 0;
+}
+bool operator!=(const ustring& a, const ustring& b)
+{
+    return a.compare(b) != 0;
+}
+bool operator<(const ustring& a, const ustring& b)
+{
+    return a.compare(b) < 0;
+}
+bool operator>(const ustring& a, const ustring& b)
+{
+    return a.compare(b) > 0;
+}
+bool operator<=(const ustring& a, const ustring& b)
+{
+    return a.compare(b) <= 0;
+}
+bool operator>=(const ustring& a, const ustring& b)
+{
+    return a.compare(b) >= 0;
+}
 
 // ---- Unicode ---------------------------------------------------------------------------
 
@@ -619,7 +831,10 @@ bool ustring::is_valid(const ustring& s)
     return err != U_INVALID_CHAR_FOUND;
 }
 
-ustring ustring::normalize(normalization_form f) const { return normalize(*this, f); }
+ustring ustring::normalize(normalization_form f) const
+{
+    return normalize(*this, f);
+}
 
 ustring ustring::normalize(const ustring& s, normalization_form f)
 {
@@ -638,7 +853,8 @@ ustring ustring::normalize(const ustring& s, normalization_form f)
     result.realloc_wdata(static_cast<size_t>(units) + 1);
     err = U_ZERO_ERROR;
     const int line = __LINE__ + 1;
-    units = unorm2_normalize(norm, as_uchar(s.wdata), -1, as_uchar(result.wdata), icu_capacity(result.wdata_size), &err);
+    units = unorm2_normalize(norm, as_uchar(s.wdata), -1, as_uchar(result.wdata),
+                             icu_capacity(result.wdata_size), &err);
     if (U_FAILURE(err)) {
         icu_warning("unorm2_normalize", err, line);
         result.clear();
@@ -650,7 +866,10 @@ ustring ustring::normalize(const ustring& s, normalization_form f)
 
 // ---- streams -----------------------------------------------------------------------------
 
-std::ostream& operator<<(std::ostream& os, const ustring& s) { return os << s.c_str(); }
+std::ostream& operator<<(std::ostream& os, const ustring& s)
+{
+    return os << s.c_str();
+}
 
 std::istream& operator>>(std::istream& is, ustring& s)
 {

@@ -145,7 +145,10 @@ double median(std::vector<double> v)
     return n % 2 ? v[n / 2] : (v[n / 2 - 1] + v[n / 2]) / 2;
 }
 
-double mib(double bytes) { return bytes / (1024.0 * 1024.0); }
+double mib(double bytes)
+{
+    return bytes / (1024.0 * 1024.0);
+}
 
 class Bench {
 public:
@@ -181,8 +184,8 @@ public:
                         ok = false;
                     } else if (run == 0 && !(scan(dest) == expected_)) {
                         const TreeStats got = scan(dest);
-                        fprintf(stderr, "%s on %s: %ld files, %ld folders, %ld links, %lld bytes\n", kToolNames[tool],
-                                packing, got.files, got.folders, got.symlinks, got.bytes);
+                        fprintf(stderr, "%s on %s: %ld files, %ld folders, %ld links, %lld bytes\n",
+                                kToolNames[tool], packing, got.files, got.folders, got.symlinks, got.bytes);
                         ok = false;
                     }
                     if (run > 0)
@@ -195,8 +198,8 @@ public:
             return false;
 
         printf("%-8s %7s %7s %8s  %8s %9s %10s  %8s %9s  %8s %9s %10s\n", "format", "ours s", "plain s",
-               "bsdtar s", "ours/bsd", "plain/bsd", "ours/plain", "ours cpu", "plain cpu", "ours MiB", "plain MiB",
-               "bsdtar MiB");
+               "bsdtar s", "ours/bsd", "plain/bsd", "ours/plain", "ours cpu", "plain cpu", "ours MiB",
+               "plain MiB", "bsdtar MiB");
         for (const char* packing : kPackings) {
             double wall[TOOLS];
             double cpu[TOOLS];
@@ -214,8 +217,9 @@ public:
                 rss[tool] = static_cast<double>(peak) / 1024.0;
             }
             printf("%-8s %7.3f %7.3f %8.3f  %8.2f %9.2f %10.3f  %8.3f %9.3f  %8.1f %9.1f %10.1f\n", packing,
-                   wall[OURS], wall[PLAIN], wall[BSDTAR], wall[OURS] / wall[BSDTAR], wall[PLAIN] / wall[BSDTAR],
-                   wall[OURS] / wall[PLAIN], cpu[OURS], cpu[PLAIN], rss[OURS], rss[PLAIN], rss[BSDTAR]);
+                   wall[OURS], wall[PLAIN], wall[BSDTAR], wall[OURS] / wall[BSDTAR],
+                   wall[PLAIN] / wall[BSDTAR], wall[OURS] / wall[PLAIN], cpu[OURS], cpu[PLAIN], rss[OURS],
+                   rss[PLAIN], rss[BSDTAR]);
         }
         fflush(stdout);
         return true;
@@ -265,16 +269,18 @@ int main(int argc, char** argv)
     printf("Package: %ld files, %ld folders, %ld symlinks, %.1f MiB of file data\nArchives:", expected.files,
            expected.folders, expected.symlinks, mib(static_cast<double>(expected.bytes)));
     for (const char* packing : kPackings)
-        printf(" %s %.1f MiB", packing, mib(static_cast<double>(fs::file_size(data + "/package." + packing))));
+        printf(" %s %.1f MiB", packing,
+               mib(static_cast<double>(fs::file_size(data + "/package." + packing))));
     rusage self{};
     getrusage(RUSAGE_SELF, &self);
     printf("\nMedians over the runs (after one unmeasured round): wall and user+system time of each child;\n"
            "plain = the bare two libarchive passes, bsd = bsdtar.\n"
-           "Peak memory is the largest ru_maxrss seen; a child's can not go below this runner's own (%.1f MiB).\n",
+           "Peak memory is the largest ru_maxrss seen; a child's can not go below this runner's own (%.1f "
+           "MiB).\n",
            static_cast<double>(self.ru_maxrss) / 1024.0);
 
     Bench bench(data, bin, expected);
-    const bool ok =
-        bench.measure("tmpfs", argv[3], atoi(argv[4])) && bench.measure("main disk", argv[2], atoi(argv[5]));
+    const bool ok = bench.measure("tmpfs", argv[3], atoi(argv[4])) &&
+                    bench.measure("main disk", argv[2], atoi(argv[5]));
     return ok ? 0 : 1;
 }

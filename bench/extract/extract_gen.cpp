@@ -142,7 +142,8 @@ public:
                 const size_t end = out.size() + 4096;
                 while (out.size() < end) {
                     const double u = rng_.unit();
-                    const std::string& s = snippets[static_cast<size_t>(u * u * static_cast<double>(snippets.size()))];
+                    const std::string& s =
+                        snippets[static_cast<size_t>(u * u * static_cast<double>(snippets.size()))];
                     out += s;
                     if (rng_.next() % 3 == 0)
                         out += random(4);
@@ -207,9 +208,9 @@ void build(Package& p)
     p.file("Contents/MacOS/drift-helper", p.binary(6 * MiB), 0755);
 
     // Frameworks: five large, the rest of medium size; headers for some.
-    const char* const frameworks[] = {"DriftCore", "QtCore", "QtGui", "QtWidgets", "QtQml", "QtNetwork",
-                                      "QtQuick", "QtSvg", "QtDBus", "QtPrintSupport", "QtXml", "Sparkle",
-                                      "DriftSync", "DriftShell"};
+    const char* const frameworks[] = {"DriftCore", "QtCore",  "QtGui",     "QtWidgets", "QtQml",
+                                      "QtNetwork", "QtQuick", "QtSvg",     "QtDBus",    "QtPrintSupport",
+                                      "QtXml",     "Sparkle", "DriftSync", "DriftShell"};
     const size_t large[] = {22 * MiB, 16 * MiB, 12 * MiB, 8 * MiB, 6 * MiB};
     p.folder("Contents/Frameworks");
     for (size_t i = 0; i < sizeof frameworks / sizeof *frameworks; ++i) {
@@ -232,18 +233,20 @@ void build(Package& p)
     }
 
     p.folder("Contents/PlugIns");
-    const char* const plugins[] = {"platforms", "imageformats", "iconengines", "styles", "bearer", "sqldrivers"};
+    const char* const plugins[] = {"platforms", "imageformats", "iconengines",
+                                   "styles",    "bearer",       "sqldrivers"};
     for (const char* kind : plugins) {
         const std::string dir = std::string("Contents/PlugIns/") + kind;
         p.folder(dir);
         for (size_t k = 0, n = rng.range(5, 10); k < n; ++k)
-            p.file(dir + "/lib" + kind + std::to_string(k) + ".dylib", p.binary(rng.range(80 * KiB, 500 * KiB)), 0755);
+            p.file(dir + "/lib" + kind + std::to_string(k) + ".dylib",
+                   p.binary(rng.range(80 * KiB, 500 * KiB)), 0755);
     }
 
     p.folder("Contents/Resources");
     p.folder("Contents/Resources/translations");
     const char* const langs[] = {"en", "zh_TW", "zh_CN", "ja", "de", "ko", "fr", "it", "es", "pt_BR",
-                                 "ru", "da", "nb", "sv", "nl", "pl", "hu", "pt", "tr", "cs"};
+                                 "ru", "da",    "nb",    "sv", "nl", "pl", "hu", "pt", "tr", "cs"};
     for (const char* lang : langs) {
         const std::string lproj = std::string("Contents/Resources/") + lang + ".lproj";
         p.folder(lproj);

@@ -129,8 +129,8 @@ int main(int argc, char** argv)
     const double base = Percentile(variants.back().ms, 0.5);
     for (const Variant& v : variants) {
         const double median = Percentile(v.ms, 0.5);
-        std::printf("  %-10s median %7.1f ms   min %7.1f   p90 %7.1f   (%d runs)   %.2fx %s\n", v.name.c_str(),
-                    median, Percentile(v.ms, 0), Percentile(v.ms, 0.9), runs, median / base,
+        std::printf("  %-10s median %7.1f ms   min %7.1f   p90 %7.1f   (%d runs)   %.2fx %s\n",
+                    v.name.c_str(), median, Percentile(v.ms, 0), Percentile(v.ms, 0.9), runs, median / base,
                     variants.back().name.c_str());
     }
     return 0;

@@ -138,8 +138,7 @@ bool WatchOnce(const std::string& home, char** argv, Run& run)
 
 // The stamp of the first line at or after index from that holds marker and
 // passes keep; its index goes to at. Negative when there is none.
-template <typename Keep>
-double Find(const Run& run, size_t& at, const char* marker, Keep keep)
+template <typename Keep> double Find(const Run& run, size_t& at, const char* marker, Keep keep)
 {
     for (size_t i = at; i < run.lines.size(); ++i) {
         if (run.lines[i].text.find(marker) != std::string::npos && keep(run.lines[i].text)) {
@@ -155,8 +154,8 @@ bool Any(const std::string&)
     return true;
 }
 
-const char* const kPhases[] = {"Qt start",   "version records", "stop of the client", "backup", "counting",
-                               "extraction", "old copy removal", "client start",      "exit"};
+const char* const kPhases[] = {"Qt start",   "version records",  "stop of the client", "backup", "counting",
+                               "extraction", "old copy removal", "client start",       "exit"};
 const size_t kPhaseCount = sizeof kPhases / sizeof *kPhases;
 
 // The ends of the phases, from the spawn; empty when a step is missing.
@@ -171,7 +170,8 @@ std::vector<double> Ends(const Run& run)
     ends.push_back(run.first_entry_ms);
     ends.push_back(Find(run, at, "user installation is ready", Any));
     ends.push_back(Find(run, at, "removing aged app folder", Any));
-    ends.push_back(Find(run, at, "launcher(", [](const std::string& t) { return t.find("): done") != t.npos; }));
+    ends.push_back(
+        Find(run, at, "launcher(", [](const std::string& t) { return t.find("): done") != t.npos; }));
     ends.push_back(run.exit_ms);
     for (size_t i = 0; i < ends.size(); ++i)
         if (ends[i] < 0 || (i > 0 && ends[i] < ends[i - 1]))
@@ -205,7 +205,8 @@ int main(int argc, char** argv)
         }
         const std::vector<double> ends = Ends(run);
         if (ends.empty()) {
-            std::fprintf(stderr, "upgrade_phases: run %d: a step is missing (backup %.1f, first entry %.1f):\n",
+            std::fprintf(stderr,
+                         "upgrade_phases: run %d: a step is missing (backup %.1f, first entry %.1f):\n",
                          i + 1, run.backup_ms, run.first_entry_ms);
             for (const Line& line : run.lines)
                 std::fprintf(stderr, "  %8.1f %s\n", line.ms, line.text.c_str());

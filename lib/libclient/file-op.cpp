@@ -68,28 +68,42 @@ int ResultFromErrno(Failed call, int err)
 int TypeFromMode(mode_t mode)
 {
     switch (mode & S_IFMT) {
-    case S_IFREG: return FILE_TYPE_REGULAR;
-    case S_IFDIR: return FILE_TYPE_DIR;
-    case S_IFLNK: return FILE_TYPE_LINK;
+    case S_IFREG:
+        return FILE_TYPE_REGULAR;
+    case S_IFDIR:
+        return FILE_TYPE_DIR;
+    case S_IFLNK:
+        return FILE_TYPE_LINK;
     case S_IFCHR:
-    case S_IFBLK: return FILE_TYPE_DEVICE;
-    case S_IFIFO: return FILE_TYPE_FIFO;
-    case S_IFSOCK: return FILE_TYPE_SOCKET;
-    default: return -1;
+    case S_IFBLK:
+        return FILE_TYPE_DEVICE;
+    case S_IFIFO:
+        return FILE_TYPE_FIFO;
+    case S_IFSOCK:
+        return FILE_TYPE_SOCKET;
+    default:
+        return -1;
     }
 }
 
 int TypeFromDirent(unsigned char dtype)
 {
     switch (dtype) {
-    case DT_REG: return FILE_TYPE_REGULAR;
-    case DT_DIR: return FILE_TYPE_DIR;
-    case DT_LNK: return FILE_TYPE_LINK;
+    case DT_REG:
+        return FILE_TYPE_REGULAR;
+    case DT_DIR:
+        return FILE_TYPE_DIR;
+    case DT_LNK:
+        return FILE_TYPE_LINK;
     case DT_CHR:
-    case DT_BLK: return FILE_TYPE_DEVICE;
-    case DT_FIFO: return FILE_TYPE_FIFO;
-    case DT_SOCK: return FILE_TYPE_SOCKET;
-    default: return FILE_TYPE_UNKNOWN;
+    case DT_BLK:
+        return FILE_TYPE_DEVICE;
+    case DT_FIFO:
+        return FILE_TYPE_FIFO;
+    case DT_SOCK:
+        return FILE_TYPE_SOCKET;
+    default:
+        return FILE_TYPE_UNKNOWN;
     }
 }
 
@@ -111,8 +125,7 @@ enum WalkResult { WALK_DONE = 0, WALK_OPEN_FAILED = -1, WALK_STOPPED = 1 };
 // Calls visit(entry name) for every entry of folder but "." and ".."; the
 // first nonzero result stops the walk. A read error ends the walk like the end
 // of the listing: whatever is left shows when the caller removes the folder.
-template <typename Visit>
-WalkResult WalkFolder(const ustring& folder, Visit visit)
+template <typename Visit> WalkResult WalkFolder(const ustring& folder, Visit visit)
 {
     DIR* dir = opendir(folder.c_str());
     if (dir == nullptr) {
@@ -153,9 +166,8 @@ int MoveFolderAcrossDevices(const ustring& src, const ustring& dst, bool exact)
     if (FSMKDir(dst, true) != kFSOk) {
         return kFSRenameFailed;
     }
-    WalkResult walk = WalkFolder(src, [&](const char* name) {
-        return FSRename(src + "/" + name, dst + "/" + name, exact);
-    });
+    WalkResult walk = WalkFolder(
+        src, [&](const char* name) { return FSRename(src + "/" + name, dst + "/" + name, exact); });
     if (walk != WALK_DONE) {
         return kFSRenameFailed;
     }
@@ -227,8 +239,8 @@ bool IsFileExist(const ustring& path, bool exact)
     }
     // The spelling found on disk is compared as it is kept there.
     ustring real = asGiven ? ustring(buffer) : ustring(buffer).normalize(ustring::NFC);
-    FILE_OP_LOG(LOG_DEBUG, "[DEBUG] file-op(%d): FSRefMakePath outTargetPath path = [%s].\n",
-                __LINE__, real.c_str());
+    FILE_OP_LOG(LOG_DEBUG, "[DEBUG] file-op(%d): FSRefMakePath outTargetPath path = [%s].\n", __LINE__,
+                real.c_str());
     if (n != real) {
         return false;
     }
@@ -299,14 +311,14 @@ int FSCopy(const ustring& src, const ustring& dst, bool removeSrc)
 {
     int in = open(src.c_str(), O_RDONLY);
     if (in < 0) {
-        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", __LINE__,
-                    src.c_str(), strerror(errno), errno);
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", __LINE__, src.c_str(),
+                    strerror(errno), errno);
         return kFSCopyFailed;
     }
     int out = open(dst.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
     if (out < 0) {
-        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", __LINE__,
-                    dst.c_str(), strerror(errno), errno);
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", __LINE__, dst.c_str(),
+                    strerror(errno), errno);
         close(in);
         return kFSCopyFailed;
     }
@@ -352,19 +364,19 @@ int FSCopy(const ustring& src, const ustring& dst, bool removeSrc)
     // flush or the close that the data cannot be stored (a volume on a full
     // backing store, a network share). The source goes once both succeeded.
     if (result == kFSOk && fsync(out) != 0) {
-        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: fsync(%s): %s (%d)\n", __LINE__,
-                    dst.c_str(), strerror(errno), errno);
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: fsync(%s): %s (%d)\n", __LINE__, dst.c_str(),
+                    strerror(errno), errno);
         result = ResultFromErrno(Failed::kCopy, errno);
     }
     if (close(out) != 0 && result == kFSOk) {
-        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: close(%s): %s (%d)\n", __LINE__,
-                    dst.c_str(), strerror(errno), errno);
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: close(%s): %s (%d)\n", __LINE__, dst.c_str(),
+                    strerror(errno), errno);
         result = ResultFromErrno(Failed::kCopy, errno);
     }
     free(buffer);
     if (result == kFSOk && removeSrc && remove(src.c_str()) != 0) {
-        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: remove(%s): %s (%d)\n", __LINE__,
-                    src.c_str(), strerror(errno), errno);
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: remove(%s): %s (%d)\n", __LINE__, src.c_str(),
+                    strerror(errno), errno);
         result = kFSCopyFailed;
     }
     return result;
@@ -381,8 +393,7 @@ int FSRename(const ustring& src, const ustring& dst, bool exact)
     }
     // The existence check follows links (and the exact one spells a link as
     // its target): a link that it misses still has a name of its own to move.
-    if (!info.exist &&
-        (GetFileInfo(src, info) != kFSOk || !info.exist || info.type != FILE_TYPE_LINK)) {
+    if (!info.exist && (GetFileInfo(src, info) != kFSOk || !info.exist || info.type != FILE_TYPE_LINK)) {
         return kFSRenameSourceMissing;
     }
     if (rename(src.c_str(), dst.c_str()) == 0) {
@@ -413,8 +424,8 @@ int FSMKDir(const ustring& path, bool parents)
     }
     FILE_INFO info;
     if (GetFileInfo(path, info) != kFSOk) {
-        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSMKDir: Failed to to file info '%s'\n",
-                    __LINE__, path.c_str());
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSMKDir: Failed to to file info '%s'\n", __LINE__,
+                    path.c_str());
         return kFSMKDirBadPath;
     }
     if (info.exist) {
@@ -510,8 +521,7 @@ int FSRemove(const ustring& path, bool /*flag*/)
     if (info.type != FILE_TYPE_DIR) {
         return remove(path.c_str()) == 0 ? kFSOk : kFSRemoveFailed;
     }
-    WalkResult walk =
-        WalkFolder(path, [&](const char* name) { return FSRemove(path + "/" + name, false); });
+    WalkResult walk = WalkFolder(path, [&](const char* name) { return FSRemove(path + "/" + name, false); });
     if (walk != WALK_DONE) {
         return kFSRemoveFailed;
     }
@@ -612,8 +622,7 @@ int FSMktemp(const ustring& folder, ustring& out)
     memcpy(pattern, name, sizeof(pattern));  // mkstemp may fill in the X's and still fail
     int fd = mkstemp(name);
     if (fd < 0) {
-        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): mkstemp(%s): %s\n", __LINE__, pattern,
-                    strerror(errno));
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): mkstemp(%s): %s\n", __LINE__, pattern, strerror(errno));
         return kFSFailed;
     }
     fsync(fd);
@@ -645,8 +654,7 @@ bool isMountPoint(const ustring& path)
 {
     char type[64];
     if (FSTypeName(path.c_str(), type, sizeof(type)) != 0) {
-        FILE_OP_LOG(LOG_ERROR,
-                    "[ERROR] file-op(%d): isMountPoint: Failed to get file system info '%s'. %s\n",
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): isMountPoint: Failed to get file system info '%s'. %s\n",
                     __LINE__, path.c_str(), strerror(errno));
         return false;
     }
@@ -666,8 +674,8 @@ bool IsMSDOS(const ustring& path)
     if (strcmp(type, "msdos") != 0) {
         return false;
     }
-    FILE_OP_LOG(LOG_WARNING, "[WARNING] file-op(%d): Detect a MSDOS platform for path '%s'.\n",
-                __LINE__, path.c_str());
+    FILE_OP_LOG(LOG_WARNING, "[WARNING] file-op(%d): Detect a MSDOS platform for path '%s'.\n", __LINE__,
+                path.c_str());
     return true;
 }
 

@@ -16,7 +16,7 @@ enum FILE_TYPE {
     FILE_TYPE_REGULAR = 1,
     FILE_TYPE_DIR = 2,
     FILE_TYPE_LINK = 3,
-    FILE_TYPE_DEVICE = 5,   // character or block device
+    FILE_TYPE_DEVICE = 5,  // character or block device
     FILE_TYPE_FIFO = 6,
     FILE_TYPE_SOCKET = 7,
 };

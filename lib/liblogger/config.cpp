@@ -12,16 +12,22 @@ const int kLineBufferSize = 8192;
 
 // Tab, line feed, vertical tab, form feed, carriage return, space; fixed here
 // so the process locale cannot change what the parser accepts.
-bool is_space(unsigned char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+bool is_space(unsigned char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
 
 bool is_key_char(unsigned char c)
 {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
-           c == '-' || c == '.' || c == '_';
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-' ||
+           c == '.' || c == '_';
 }
 
 // Control bytes and delete may not appear inside a value.
-bool is_control(unsigned char c) { return c < 32 || c == 127; }
+bool is_control(unsigned char c)
+{
+    return c < 32 || c == 127;
+}
 
 const char* skip_space(const char* p)
 {

@@ -26,8 +26,14 @@ const Logger::Level kWarning = static_cast<Logger::Level>(4);
 
 // log_fp is tested without the lock (LogMsg2's fast path), so every store and
 // that one load are atomic; all other uses happen under log_lock.
-FILE* load_fp() { return __atomic_load_n(&Logger::log_fp, __ATOMIC_ACQUIRE); }
-void store_fp(FILE* fp) { __atomic_store_n(&Logger::log_fp, fp, __ATOMIC_RELEASE); }
+FILE* load_fp()
+{
+    return __atomic_load_n(&Logger::log_fp, __ATOMIC_ACQUIRE);
+}
+void store_fp(FILE* fp)
+{
+    __atomic_store_n(&Logger::log_fp, fp, __ATOMIC_RELEASE);
+}
 
 // Thread cancellation is held off while log_lock is taken, so a cancelled
 // thread can never leave the lock behind.
@@ -198,8 +204,8 @@ int Logger::Initialize(Type type, const ustring& path, const ustring& level_path
                level_path.c_str_utf8());
     if (!problem.not_a_number.empty())
         LogMsg(kWarning, "default_component",
-               "[WARNING] log(%d): level file '%s': level of '%s' is not a number, read as %d\n",
-               __LINE__, level_path.c_str_utf8(), problem.not_a_number.c_str_utf8(), problem.read_as);
+               "[WARNING] log(%d): level file '%s': level of '%s' is not a number, read as %d\n", __LINE__,
+               level_path.c_str_utf8(), problem.not_a_number.c_str_utf8(), problem.read_as);
     return result;
 }
 

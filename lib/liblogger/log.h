@@ -22,7 +22,7 @@ public:
         LOG_TYPE_SYSLOG = 1,  // vsyslog, always at priority 3
         LOG_TYPE_STDOUT = 2,
         LOG_TYPE_STDERR = 3,
-        LOG_TYPE_FILE = 4,    // file with size accounting and rotation
+        LOG_TYPE_FILE = 4,  // file with size accounting and rotation
     };
     enum Level : int {
         LOG_ERROR = 3,
@@ -36,12 +36,11 @@ public:
     // previous stream stays in use). The level file is applied in every case;
     // a malformed one (left out) and a level that is not a number (read by
     // get_int, so a typo reads as 0) are said in a warning.
-    static int Initialize(Type type, const ustring& log_path, const ustring& level_path,
-                          int rotate_count);
+    static int Initialize(Type type, const ustring& log_path, const ustring& level_path, int rotate_count);
     static void LogMsg(Level level, const ustring& component, const char* format, ...)
         __attribute__((format(printf, 3, 4)));
-    static void LogMsg2(Level level, const ustring& component, const char* format,
-                        va_list args) __attribute__((format(printf, 3, 0)));
+    static void LogMsg2(Level level, const ustring& component, const char* format, va_list args)
+        __attribute__((format(printf, 3, 0)));
     // Renames archives k -> k+1, drops archive rotate_cnt-1, moves the live file
     // to archive 0 and reopens it. On failure logging stops for the process.
     // Not locked against other processes by itself: LogMsg2 calls it locked.

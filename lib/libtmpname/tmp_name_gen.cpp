@@ -61,8 +61,8 @@ void TmpNameGen::get_key(unsigned char* buffer, unsigned long length)
 {
     struct timeval now;
     gettimeofday(&now, nullptr);
-    snprintf(reinterpret_cast<char*>(buffer), length, "%lu-%lu",
-             static_cast<unsigned long>(now.tv_sec), static_cast<unsigned long>(now.tv_usec));
+    snprintf(reinterpret_cast<char*>(buffer), length, "%lu-%lu", static_cast<unsigned long>(now.tv_sec),
+             static_cast<unsigned long>(now.tv_usec));
 }
 
 void TmpNameGen::rc4_init(unsigned char* state, unsigned char* key)

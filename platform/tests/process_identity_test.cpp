@@ -40,10 +40,8 @@ TEST(ProcessIdentity, MatchesTheRunningProgramOrAScriptNamedOnItsCommandLine)
         {"other_path_to_the_program", {"/bin/sleep", "60", nullptr}, link, PROCESS_MATCHES},
         {"other_program", {"/bin/sleep", "60", nullptr}, "/bin/sh", PROCESS_OTHER},
         {"no_such_file", {"/bin/sleep", "60", nullptr}, dir + "/none", PROCESS_OTHER},
-        {"script_started_by_the_kernel", {script.c_str(), nullptr, nullptr}, script,
-         PROCESS_MATCHES},
-        {"script_as_relative_second_word", {"/bin/sh", "./drift-ui", nullptr}, script,
-         PROCESS_MATCHES},
+        {"script_started_by_the_kernel", {script.c_str(), nullptr, nullptr}, script, PROCESS_MATCHES},
+        {"script_as_relative_second_word", {"/bin/sh", "./drift-ui", nullptr}, script, PROCESS_MATCHES},
         {"plain_file_read_by_sh", {"/bin/sh", "plain", nullptr}, plain, PROCESS_OTHER},
     };
     for (const auto& row : rows) {

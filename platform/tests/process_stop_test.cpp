@@ -106,7 +106,8 @@ TEST(ProcessStop, HoldsNothingButTheNamedProgram)
         {"other_program", other, "/bin/sh", PROCESS_OTHER},
     };
     // Until the zombie is one, it may still count as us.
-    dwtest::WaitFor([&] { return MatchProcessExecutable(zombie, "/proc/self/exe") == PROCESS_MISSING; }, 6000);
+    dwtest::WaitFor([&] { return MatchProcessExecutable(zombie, "/proc/self/exe") == PROCESS_MISSING; },
+                    6000);
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         HeldProcess held;

@@ -20,11 +20,7 @@ inline std::ostream& operator<<(std::ostream& out, const Row& row)
 
 // The name generator of INSTANTIATE_TEST_SUITE_P.
 struct RowName {
-    template <typename Info>
-    std::string operator()(const Info& info) const
-    {
-        return info.param.name;
-    }
+    template <typename Info> std::string operator()(const Info& info) const { return info.param.name; }
 };
 
 }  // namespace dwtest

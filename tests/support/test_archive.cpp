@@ -25,10 +25,10 @@ int SetFormat(archive* a, int format)
 ArchiveWriter::ArchiveWriter(const std::string& path, const Packing& packing)
     : a_(archive_write_new()), mtime_(packing.mtime)
 {
-    ok_ = SetFormat(a_, packing.format) == ARCHIVE_OK
-          && archive_write_add_filter(a_, packing.filter) == ARCHIVE_OK
-          && (packing.options == nullptr || archive_write_set_options(a_, packing.options) == ARCHIVE_OK)
-          && archive_write_open_filename(a_, path.c_str()) == ARCHIVE_OK;
+    ok_ = SetFormat(a_, packing.format) == ARCHIVE_OK &&
+          archive_write_add_filter(a_, packing.filter) == ARCHIVE_OK &&
+          (packing.options == nullptr || archive_write_set_options(a_, packing.options) == ARCHIVE_OK) &&
+          archive_write_open_filename(a_, path.c_str()) == ARCHIVE_OK;
 }
 
 ArchiveWriter::~ArchiveWriter()
@@ -46,7 +46,9 @@ bool ArchiveWriter::Add(const Entry& e)
     archive_entry* entry = archive_entry_new();
     archive_entry_set_pathname(entry, e.name.c_str());
     archive_entry_set_filetype(entry, kFileType[e.kind]);
-    archive_entry_set_perm(entry, static_cast<mode_t>(e.mode >= 0 ? e.mode : e.kind == Entry::Folder ? 0755 : 0644));
+    archive_entry_set_perm(entry, static_cast<mode_t>(e.mode >= 0               ? e.mode
+                                                      : e.kind == Entry::Folder ? 0755
+                                                                                : 0644));
     if (mtime_ != 0)
         archive_entry_set_mtime(entry, mtime_, 0);
     archive_entry_set_size(entry, file ? static_cast<la_int64_t>(e.data.size()) : 0);
@@ -76,7 +78,8 @@ std::string ArchiveWriter::Error() const
     return text != nullptr ? text : "";
 }
 
-bool WriteArchive(const std::string& path, const std::vector<Entry>& entries, const Packing& packing, long long cut)
+bool WriteArchive(const std::string& path, const std::vector<Entry>& entries, const Packing& packing,
+                  long long cut)
 {
     std::error_code ignored;
     std::filesystem::create_directories(std::filesystem::path(path).parent_path(), ignored);

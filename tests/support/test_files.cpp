@@ -89,10 +89,18 @@ Tree TreeOf(const std::vector<Entry>& entries)
         for (size_t slash = e.name.find('/'); slash != std::string::npos; slash = e.name.find('/', slash + 1))
             tree[e.name.substr(0, slash)] = "<dir>";
         switch (e.kind) {
-        case Entry::File: tree[e.name] = Shown(e.data); break;
-        case Entry::Folder: tree[e.name] = "<dir>"; break;
-        case Entry::Symlink: tree[e.name] = "-> " + e.data; break;
-        case Entry::Hardlink: tree[e.name] = tree[e.data]; break;
+        case Entry::File:
+            tree[e.name] = Shown(e.data);
+            break;
+        case Entry::Folder:
+            tree[e.name] = "<dir>";
+            break;
+        case Entry::Symlink:
+            tree[e.name] = "-> " + e.data;
+            break;
+        case Entry::Hardlink:
+            tree[e.name] = tree[e.data];
+            break;
         }
     }
     return tree;

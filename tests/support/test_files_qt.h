@@ -13,7 +13,10 @@ QByteArray ReadFile(const QString& path);
 bool WriteFile(const QString& path, const QByteArray& data, int mode = 0644);
 Tree Snapshot(const QString& root);
 // A string literal as a path is one of ours, not a QString.
-inline std::string ReadFile(const char* path) { return ReadFile(std::string(path)); }
+inline std::string ReadFile(const char* path)
+{
+    return ReadFile(std::string(path));
+}
 
 // An application object for QProcess and the like, unless there is one.
 void EnsureCoreApplication();

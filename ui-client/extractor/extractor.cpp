@@ -111,15 +111,15 @@ bool open_for_walk(const ustring& dest_path, const ustring& archive_path, ReadHa
         fail("[ERROR] extractor(%d): '%s' is an mtree manifest, refused: a package carries its own files\n",
              __LINE__, archive_path.c_str());
     else
-        fail("[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n", __LINE__, error_text(reader.get()));
+        fail("[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n", __LINE__,
+             error_text(reader.get()));
     return false;
 }
 
 // The headers-only pass: visit(entry) for every entry, its data skipped. Any
 // error ends the pass with what was seen so far (Extract meets the same error
 // in its own pass and reports it there). The number of entries seen.
-template <typename Visit>
-int walk_headers(archive* reader, Visit visit)
+template <typename Visit> int walk_headers(archive* reader, Visit visit)
 {
     int n = 0;
     archive_entry* entry = nullptr;
@@ -147,7 +147,8 @@ void read_failed(archive* reader)
         fail("[ERROR] extractor(%d): archive_read_extract2, read handle: '%s' (%s)\n", __LINE__,
              error_text(reader), strerror(code));
     else
-        fail("[ERROR] extractor(%d): archive_read_extract2, read handle: '%s'\n", __LINE__, error_text(reader));
+        fail("[ERROR] extractor(%d): archive_read_extract2, read handle: '%s'\n", __LINE__,
+             error_text(reader));
 }
 
 // Counts the entries of an opened archive and sends Extract's progress pairs
@@ -255,8 +256,8 @@ int Extractor::Extract()
 {
     if (archive_path.empty() || dest_path.empty())
         return fail("[ERROR] extractor(%d): Invalid Argument\n", __LINE__);
-    Logger::LogMsg(Logger::LOG_DEBUG, kComponent, "[DEBUG] extractor(%d): decompress from '%s' to '%s'\n", __LINE__,
-                   archive_path.c_str(), dest_path.c_str());
+    Logger::LogMsg(Logger::LOG_DEBUG, kComponent, "[DEBUG] extractor(%d): decompress from '%s' to '%s'\n",
+                   __LINE__, archive_path.c_str(), dest_path.c_str());
     Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(StrTable::kIdPreparing));
 
     // The dialog can only show a fraction once the total is known. Only the
@@ -305,8 +306,8 @@ int Extractor::Extract()
             // Closing runs the fix-ups the writer deferred to the end (the modes
             // of folders that had to stay writable while they were filled).
             if (archive_write_close(writer.get()) != ARCHIVE_OK)
-                return fail("[ERROR] extractor(%d): archive_write_close failed: '%s'\n",
-                            __LINE__, error_text(writer.get()));
+                return fail("[ERROR] extractor(%d): archive_write_close failed: '%s'\n", __LINE__,
+                            error_text(writer.get()));
             return 0;
         }
         // A warning here (a name that cannot be converted, say) is as fatal as an error.
@@ -316,14 +317,15 @@ int Extractor::Extract()
                                             __LINE__, error_text(reader.get()));
         const char* name = archive_entry_pathname(entry);
         if (name == nullptr)
-            return counted_failure() ? -1 : fail("[ERROR] extractor(%d): archive_entry_pathname failed", __LINE__);
+            return counted_failure() ? -1
+                                     : fail("[ERROR] extractor(%d): archive_entry_pathname failed", __LINE__);
         // As a folder such an entry is the destination already there; as
         // anything else the writer would unlink the destination to put it there.
         if (names_destination(name) && archive_entry_filetype(entry) != AE_IFDIR)
-            return counted_failure()
-                       ? -1
-                       : fail("[ERROR] extractor(%d): entry '%s' would take the place of the destination folder\n",
-                              __LINE__, name);
+            return counted_failure() ? -1
+                                     : fail("[ERROR] extractor(%d): entry '%s' would take the place of the "
+                                            "destination folder\n",
+                                            __LINE__, name);
         // The stored name is kept as it is: an absolute name lands below the
         // destination, and the writer refuses a ".." component.
         archive_entry_set_pathname(entry, (prefix + name).c_str_utf8());
@@ -336,7 +338,8 @@ int Extractor::Extract()
         if (archive_read_extract2(reader.get(), entry, writer.get()) != ARCHIVE_OK) {
             if (counted_failure())
                 return -1;
-            fail("[ERROR] extractor(%d): archive_read_extract2 failed: '%s'\n", __LINE__, error_text(writer.get()));
+            fail("[ERROR] extractor(%d): archive_read_extract2 failed: '%s'\n", __LINE__,
+                 error_text(writer.get()));
             // The writer has no text when reading the entry failed (a truncated
             // package), nor when a write failed: its error went to the reader.
             if (*error_text(writer.get()) == '\0')
@@ -346,9 +349,10 @@ int Extractor::Extract()
         if (!tally.written(done))
             return count_failed(tally.settle());
         if (archive_write_finish_entry(writer.get()) != ARCHIVE_OK)
-            return counted_failure() ? -1
-                                     : fail("[ERROR] extractor(%d): archive_write_finish_entry failed: '%s'\n",
-                                            __LINE__, error_text(writer.get()));
+            return counted_failure()
+                       ? -1
+                       : fail("[ERROR] extractor(%d): archive_write_finish_entry failed: '%s'\n", __LINE__,
+                              error_text(writer.get()));
     }
 }
 
@@ -385,8 +389,10 @@ int Extractor::copy_data(struct archive* ar, struct archive* aw)
         if (r == ARCHIVE_EOF)
             return 0;
         if (r != ARCHIVE_OK)
-            return fail("[ERROR] extractor(%d): archive_read_data_block failed: '%s'\n", __LINE__, error_text(ar));
+            return fail("[ERROR] extractor(%d): archive_read_data_block failed: '%s'\n", __LINE__,
+                        error_text(ar));
         if (archive_write_data_block(aw, buffer, size, offset) != ARCHIVE_OK)
-            return fail("[ERROR] extractor(%d): archive_write_data_block failed: '%s'\n", __LINE__, error_text(aw));
+            return fail("[ERROR] extractor(%d): archive_write_data_block failed: '%s'\n", __LINE__,
+                        error_text(aw));
     }
 }

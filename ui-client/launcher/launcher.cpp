@@ -19,13 +19,13 @@ Launcher::Launcher() : QObject(nullptr), m_worker(nullptr), m_dialog(nullptr), m
     connect(this, SIGNAL(sigStart()), m_worker, SLOT(HandleServicce()), Qt::AutoConnection);
     connect(m_worker, SIGNAL(sigShowMsg()), this, SLOT(ShowMsgBox()), Qt::AutoConnection);
     connect(m_worker, SIGNAL(sigServiceDone()), this, SLOT(LaunchDone()), Qt::AutoConnection);
-    connect(m_worker, SIGNAL(sigUpdateProgress(int,int)), this, SLOT(UpdateProgress(int,int)),
+    connect(m_worker, SIGNAL(sigUpdateProgress(int, int)), this, SLOT(UpdateProgress(int, int)),
             Qt::AutoConnection);
     connect(m_worker, SIGNAL(sigSetLabelText(QString)), this, SLOT(SetLabelText(QString)),
             Qt::AutoConnection);
     // The first call makes the bridge, here in the user interface thread.
     Notify_Adapter* bridge = Notify_Adapter::GetInstance();
-    connect(bridge, SIGNAL(sigUpdateProgress(int,int)), this, SLOT(UpdateProgress(int,int)),
+    connect(bridge, SIGNAL(sigUpdateProgress(int, int)), this, SLOT(UpdateProgress(int, int)),
             Qt::AutoConnection);
     connect(bridge, SIGNAL(sigUpdateDialogText(QString)), this, SLOT(SetLabelText(QString)),
             Qt::AutoConnection);
@@ -70,8 +70,7 @@ void Launcher::UpdateProgress(int total, int steps)
     // otherwise flood and rotate the log. The bar ignores values out of range.
     if (value == m_dialog->value() || value < m_dialog->minimum() || value > m_dialog->maximum())
         return;
-    Logger::LogMsg(Logger::LOG_DEBUG, kComponent, "[DEBUG] launcher(%d): progress %d\n", __LINE__,
-                   value);
+    Logger::LogMsg(Logger::LOG_DEBUG, kComponent, "[DEBUG] launcher(%d): progress %d\n", __LINE__, value);
     m_dialog->setValue(value);
 }
 
@@ -95,7 +94,6 @@ void Launcher::ShowMsgBox()
         // Reaching 100 neither resets nor hides the dialog.
         m_dialog->setAutoReset(false);
     }
-    Logger::LogMsg(Logger::LOG_DEBUG, kComponent, "[DEBUG] launcher(%d): show progress dialog\n",
-                   __LINE__);
+    Logger::LogMsg(Logger::LOG_DEBUG, kComponent, "[DEBUG] launcher(%d): show progress dialog\n", __LINE__);
     m_dialog->show();
 }

@@ -19,8 +19,7 @@ QString ToQString(const ustring& text)
 ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, Qt::WindowFlags())
 {
     QFont font(QStringLiteral("Arial"));
-    const ustring icon_path =
-        Service::GetRootDriftwellResourceInstallPath() + "/images/ico_72_driftwell.png";
+    const ustring icon_path = Service::GetRootDriftwellResourceInstallPath() + "/images/ico_72_driftwell.png";
     setWindowTitle(StrTable::LoadStr(StrTable::kIdAppName));
     // A missing icon file just leaves the window without an icon.
     setWindowIcon(QIcon(ToQString(icon_path)));

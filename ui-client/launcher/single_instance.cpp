@@ -13,8 +13,7 @@ QString SingleInstance::LockPath()
     hash.addData("\n", 1);
     hash.addData(QByteArray::number(static_cast<qulonglong>(getuid())));
     const QString checksum = QString::fromLatin1(hash.result().toHex().left(16));
-    return QDir::tempPath() + QStringLiteral("/driftwell-launcher-") + checksum
-           + QStringLiteral(".lock");
+    return QDir::tempPath() + QStringLiteral("/driftwell-launcher-") + checksum + QStringLiteral(".lock");
 }
 
 SingleInstance::SingleInstance() : m_lock(LockPath()), m_running(false)

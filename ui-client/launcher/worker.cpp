@@ -59,8 +59,7 @@ void Worker::HandleServicce()
     // The decision below copes with missing or partial records on its own.
     s.PreUpgrade();
     if (!s.IsNeedUpgrade()) {
-        Logger::LogMsg(Logger::LOG_DEBUG, kComponent, "[DEBUG] launcher(%d): no need to upgrade\n",
-                       __LINE__);
+        Logger::LogMsg(Logger::LOG_DEBUG, kComponent, "[DEBUG] launcher(%d): no need to upgrade\n", __LINE__);
     } else {
         emit sigShowMsg();
         if (s.HandlePackageUpgrade() == 0) {
@@ -69,8 +68,8 @@ void Worker::HandleServicce()
         } else {
             // Not fatal: the old copy is back where there was one, and the
             // client is started all the same. The dialog keeps its last state.
-            Logger::LogMsg(Logger::LOG_ERROR, kComponent,
-                           "[ERROR] launcher(%d): Failed to upgrade package\n", __LINE__);
+            Logger::LogMsg(Logger::LOG_ERROR, kComponent, "[ERROR] launcher(%d): Failed to upgrade package\n",
+                           __LINE__);
         }
     }
     s.RemoveAgedFolders();

@@ -9,8 +9,8 @@
 // One debug line: the source path, the line, the expression as written and its
 // value. The logger context is spelled out because qDebug() leaves file and
 // function empty in release builds.
-#define TALV_TRACE(format, expr)                                         \
-    QMessageLogger(__FILE__, __LINE__, Q_FUNC_INFO)                      \
+#define TALV_TRACE(format, expr)                                                                             \
+    QMessageLogger(__FILE__, __LINE__, Q_FUNC_INFO)                                                          \
         .debug(format, "../libcommon/TalvLocale", __LINE__, #expr, expr)
 
 namespace TalvLocale {
@@ -18,7 +18,7 @@ namespace {
 
 // The index of a code is its language id; the null entry ends the table.
 const char* const grgszLanguages[] = {
-    "enu", "cht", "chs", "jpn", "deu", "krn", "fra", "ita", "esn", "ptb", "rus",
+    "enu", "cht", "chs", "jpn", "deu", "krn", "fra", "ita", "esn", "ptb",   "rus",
     "dan", "nor", "sve", "nld", "plk", "hun", "ptg", "trk", "csy", nullptr,
 };
 constexpr int kLanguageCount = int(sizeof(grgszLanguages) / sizeof(grgszLanguages[0])) - 1;
@@ -34,8 +34,8 @@ QString getDefaultLanguage()
     TALV_TRACE("%s:%d %s=[%s] ", qPrintable(qstrLocaleLower));
 
     QString qstrDef;
-    if (qstrLocaleLower == QLatin1String("zh_tw") || qstrLocaleLower == QLatin1String("zh_hk")
-        || qstrLocaleLower == QLatin1String("zh_mo"))
+    if (qstrLocaleLower == QLatin1String("zh_tw") || qstrLocaleLower == QLatin1String("zh_hk") ||
+        qstrLocaleLower == QLatin1String("zh_mo"))
         qstrDef = QStringLiteral("cht");
     if (qstrLocaleLower == QLatin1String("pt") || qstrLocaleLower == QLatin1String("pt_pt"))
         qstrDef = QStringLiteral("ptg");

@@ -14,6 +14,6 @@ QStringList getSupportedLanguages();
 QString getStrLanguageFallSafe();
 // The code with that id (0 to 19); empty for any other id.
 QString getLanguageAbbrByID(int id);
-}
+}  // namespace TalvLocale
 
 #endif

@@ -20,6 +20,8 @@ struct Row {
 // sequences backslash-n and backslash-t. Rows share a text only where every
 // language can use one translation in all of them: the catalogues are keyed
 // by the English text alone.
+// One row per line: the table is data.
+// clang-format off
 constexpr Row kRows[kRowCount] = {
     {"wizard_ssl_change_sync_folder_warning", "The server's certificate has changed since the last connection."},  // 0
     {"msi_button_cancel", "Cancel"},  // 1
@@ -622,6 +624,7 @@ constexpr Row kRows[kRowCount] = {
     {"wizard_setup_repeat_warning_desc", "One folder can belong to only one sync task."},  // 598
     {"btn_settings", "Settings"},  // 599
 };
+// clang-format on
 
 constexpr char foldAscii(char c)
 {
@@ -652,8 +655,8 @@ constexpr bool rowsCompleteAndKeysUnique()
     return true;
 }
 static_assert(rowsCompleteAndKeysUnique(), "every row needs a key and a text; keys are unique ignoring case");
-static_assert(sameKey(kRows[16].key, "desc_dwel_env_preparation_done") && sameKey(kRows[54].key, "desc_dwel_env_preparing")
-                  && sameKey(kRows[453].key, "app_name"),
+static_assert(sameKey(kRows[16].key, "desc_dwel_env_preparation_done") &&
+                  sameKey(kRows[54].key, "desc_dwel_env_preparing") && sameKey(kRows[453].key, "app_name"),
               "rows shown by the launcher moved");
 
 // Null until InitStrTable; read-only afterwards, so readers need no lock.

@@ -19,7 +19,7 @@ void InitStrTable();
 QString LoadStr(int id);
 // The id of a key (case-insensitive), or -1.
 int LookupStrID(QString key);
-}
+}  // namespace StrTable
 
 // The resource collection "texts" with the catalogues ":/<code>.qm", made by
 // rcc. Registering twice is harmless; a static initialiser also registers it

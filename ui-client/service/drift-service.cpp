@@ -36,8 +36,7 @@ ustring GetAppBackupDir(const ustring& base, int number)
     char postfix[8];
     if (snprintf(postfix, sizeof postfix, "%d", number) < 0) {
         Logger::LogMsg(Logger::LOG_ERROR, kComponent,
-                       "[ERROR] drift-service(%d): snprintf failed (continuing without postfix)",
-                       __LINE__);
+                       "[ERROR] drift-service(%d): snprintf failed (continuing without postfix)", __LINE__);
         postfix[0] = '\0';
     }
     return name + postfix;
@@ -199,14 +198,13 @@ void Service::LoadTargetVersion()
     Logger::LogMsg(Logger::LOG_INFO, kComponent,
                    "[INFO] drift-service(%d): target_version = (%s, %s, %s, %s)\n", __LINE__,
                    target_version.major_version.c_str(), target_version.minor_version.c_str(),
-                   target_version.build_version.c_str(),
-                   target_version.icon_overlay_version.c_str());
+                   target_version.build_version.c_str(), target_version.icon_overlay_version.c_str());
     // A broken bundle: without its build nothing is upgraded unless the
     // client is missing.
     if (const char* problem = TargetRecordProblem(path, status, target_version)) {
         Logger::LogMsg(Logger::LOG_WARNING, kComponent,
-                       "[WARNING] drift-service(%d): bundle version record '%s' %s\n", __LINE__,
-                       path.c_str(), problem);
+                       "[WARNING] drift-service(%d): bundle version record '%s' %s\n", __LINE__, path.c_str(),
+                       problem);
     }
 }
 
@@ -215,16 +213,15 @@ void Service::LoadSourceVersion()
     ustring path = GetUserDriftwellAppInstallPath() + "/Contents/Resources" + "/" + "INFO";
     if (!IsFileExist(path, false)) {
         // Not an error: there is no per-user copy yet, or it lost its record.
-        Logger::LogMsg(Logger::LOG_INFO, kComponent,
-                       "[INFO] drift-service(%d): source does not exist\n", __LINE__);
+        Logger::LogMsg(Logger::LOG_INFO, kComponent, "[INFO] drift-service(%d): source does not exist\n",
+                       __LINE__);
         return;
     }
     ReadVersionRecord(path, source_version);
     Logger::LogMsg(Logger::LOG_INFO, kComponent,
                    "[INFO] drift-service(%d): source_version = (%s, %s, %s, %s)\n", __LINE__,
                    source_version.major_version.c_str(), source_version.minor_version.c_str(),
-                   source_version.build_version.c_str(),
-                   source_version.icon_overlay_version.c_str());
+                   source_version.build_version.c_str(), source_version.icon_overlay_version.c_str());
 }
 
 int Service::PrepareUserEnv()
@@ -261,8 +258,8 @@ int Service::PrepareUserEnv()
             if (FSRename(app, backup, false) == kFSOk)
                 break;
             Logger::LogMsg(Logger::LOG_ERROR, kComponent,
-                           "[ERROR] drift-service(%d): failed to backup app from '%s' -> '%s'\n",
-                           __LINE__, app.c_str(), backup.c_str());
+                           "[ERROR] drift-service(%d): failed to backup app from '%s' -> '%s'\n", __LINE__,
+                           app.c_str(), backup.c_str());
             if (n >= kLastBackupNumber) {
                 // Fatal for the upgrade only: the old copy stays in place and is launched.
                 Logger::LogMsg(Logger::LOG_ERROR, kComponent,
@@ -301,8 +298,8 @@ int Service::PrepareUserEnv()
     if (newest < 0)
         return -1;  // never put a partial copy in place
     const ustring restore = GetAppBackupDir(app, newest);
-    Logger::LogMsg(Logger::LOG_WARNING, kComponent,
-                   "[WARNING] drift-service(%d): restoring '%s'\n", __LINE__, restore.c_str());
+    Logger::LogMsg(Logger::LOG_WARNING, kComponent, "[WARNING] drift-service(%d): restoring '%s'\n", __LINE__,
+                   restore.c_str());
     // Unchecked: should the rename back fail, the next run finds the complete
     // backup and takes it as the old copy again.
     RemoveCopy(app);
@@ -320,9 +317,8 @@ int Service::ExtractPackage()
                        destination.c_str());
         return -1;
     }
-    Logger::LogMsg(Logger::LOG_INFO, kComponent,
-                   "[INFO] drift-service(%d): extract package: '%s' -> '%s'\n", __LINE__,
-                   archive.c_str(), destination.c_str());
+    Logger::LogMsg(Logger::LOG_INFO, kComponent, "[INFO] drift-service(%d): extract package: '%s' -> '%s'\n",
+                   __LINE__, archive.c_str(), destination.c_str());
     Extractor extractor;
     extractor.dest_path = destination;
     extractor.archive_path = archive;
@@ -332,9 +328,8 @@ int Service::ExtractPackage()
 void Service::RemoveAgedFolders()
 {
     const ustring path = GetUserDriftwellInstallPath() + "/app";
-    Logger::LogMsg(Logger::LOG_INFO, kComponent,
-                   "[INFO] drift-service(%d): removing aged app folder %s\n", __LINE__,
-                   path.c_str());
+    Logger::LogMsg(Logger::LOG_INFO, kComponent, "[INFO] drift-service(%d): removing aged app folder %s\n",
+                   __LINE__, path.c_str());
     // Best effort: a folder that stays is tried again on the next launch.
     FSRemove(path, false);
 
@@ -349,20 +344,19 @@ void Service::RemoveAgedFolders()
 
 int Service::FSCopyPath(const ustring& source, const ustring& destination)
 {
-    Logger::LogMsg(Logger::LOG_DEBUG, kComponent,
-                   "[DEBUG] drift-service(%d): copy from '%s' to '%s'\n", __LINE__,
-                   source.c_str(), destination.c_str());
+    Logger::LogMsg(Logger::LOG_DEBUG, kComponent, "[DEBUG] drift-service(%d): copy from '%s' to '%s'\n",
+                   __LINE__, source.c_str(), destination.c_str());
     _FILE_INFO_tag info;
     if (FSStat(source, info, false) < 0) {
         Logger::LogMsg(Logger::LOG_ERROR, kComponent,
-                       "[ERROR] drift-service(%d): FSCopyPath: failed to stat source '%s'\n",
-                       __LINE__, source.c_str());
+                       "[ERROR] drift-service(%d): FSCopyPath: failed to stat source '%s'\n", __LINE__,
+                       source.c_str());
         return -1;
     }
     if (!info.exist) {
         Logger::LogMsg(Logger::LOG_ERROR, kComponent,
-                       "[ERROR] drift-service(%d): FSCopyPath: source path '%s' does not exist\n",
-                       __LINE__, source.c_str());
+                       "[ERROR] drift-service(%d): FSCopyPath: source path '%s' does not exist\n", __LINE__,
+                       source.c_str());
         return -1;
     }
     if (info.type != FILE_TYPE_DIR)
@@ -370,8 +364,8 @@ int Service::FSCopyPath(const ustring& source, const ustring& destination)
 
     if (FSMKDir(destination, true) < 0) {
         Logger::LogMsg(Logger::LOG_ERROR, kComponent,
-                       "[ERROR] drift-service(%d): FSCopyPath: failed to create dest folder '%s'\n",
-                       __LINE__, destination.c_str());
+                       "[ERROR] drift-service(%d): FSCopyPath: failed to create dest folder '%s'\n", __LINE__,
+                       destination.c_str());
         return -1;
     }
     DIR_HANDLE handle;
@@ -390,9 +384,8 @@ int Service::FSCopyPath(const ustring& source, const ustring& destination)
             continue;
         const ustring child_source = source + "/" + entry.name;
         const ustring child_destination = destination + "/" + entry.name;
-        const int r = entry.type == FILE_TYPE_DIR
-                          ? FSCopyPath(child_source, child_destination)
-                          : FSCopy(child_source, child_destination, false);
+        const int r = entry.type == FILE_TYPE_DIR ? FSCopyPath(child_source, child_destination)
+                                                  : FSCopy(child_source, child_destination, false);
         if (r < 0) {
             Logger::LogMsg(Logger::LOG_ERROR, kComponent,
                            "[ERROR] drift-service(%d): FSCopyPath: failed to copy from '%s' to "

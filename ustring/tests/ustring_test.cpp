@@ -12,13 +12,19 @@
 #include <string>
 
 // The impossible allocation below must come back as null, not stop the run.
-extern "C" const char* __asan_default_options() { return "allocator_may_return_null=1"; }
+extern "C" const char* __asan_default_options()
+{
+    return "allocator_may_return_null=1";
+}
 
 namespace {
 
 const size_t npos = ustring::npos;
 
-std::u16string utf16_of(const ustring& s) { return reinterpret_cast<const char16_t*>(s.c_str_utf16()); }
+std::u16string utf16_of(const ustring& s)
+{
+    return reinterpret_cast<const char16_t*>(s.c_str_utf16());
+}
 
 // Ends a stderr capture; every line must be one warning of `call`: fixed
 // text, ICU error code, source line. Returns the number of lines.
@@ -84,13 +90,15 @@ TEST(UstringTest, AppendsAndAssignsFromItsOwnBuffer)
 
 TEST(UstringTest, IcuRejectsInvalidTextWithAWarningPerCall)
 {
-    const ustring bad("a\xFF" "b");
+    const ustring bad("a\xFF"
+                      "b");
     testing::internal::CaptureStderr();
     EXPECT_EQ(bad.c_str_utf16()[0], 0);
     EXPECT_EQ(bad.c_str_utf16()[0], 0);
     EXPECT_FALSE(ustring::is_valid(bad));  // silently
     EXPECT_EQ(warnings("u_strFromUTF8"), 2u);
-    EXPECT_STREQ(bad.c_str(), "a\xFF" "b");
+    EXPECT_STREQ(bad.c_str(), "a\xFF"
+                              "b");
 
     ustring lone("ab");
     testing::internal::CaptureStderr();
@@ -198,12 +206,18 @@ TEST(UstringTest, SearchFamilies)
         // The std::string, char*, ustring and char needles must agree.
         auto check = [&](auto needle) {
             switch (r.family) {
-            case Find: return s.find(needle, r.pos);
-            case RFind: return s.rfind(needle, r.pos);
-            case FirstOf: return s.find_first_of(needle, r.pos);
-            case FirstNotOf: return s.find_first_not_of(needle, r.pos);
-            case LastOf: return s.find_last_of(needle, r.pos);
-            case LastNotOf: return s.find_last_not_of(needle, r.pos);
+            case Find:
+                return s.find(needle, r.pos);
+            case RFind:
+                return s.rfind(needle, r.pos);
+            case FirstOf:
+                return s.find_first_of(needle, r.pos);
+            case FirstNotOf:
+                return s.find_first_not_of(needle, r.pos);
+            case LastOf:
+                return s.find_last_of(needle, r.pos);
+            case LastNotOf:
+                return s.find_last_not_of(needle, r.pos);
             }
             return size_t(0);
         };

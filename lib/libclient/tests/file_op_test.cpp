@@ -30,7 +30,10 @@ using dwtest::ReadFile;
 using dwtest::WriteFile;
 
 // Links are described, not followed.
-bool IsDir(const std::string& path) { return fs::is_directory(fs::symlink_status(path)); }
+bool IsDir(const std::string& path)
+{
+    return fs::is_directory(fs::symlink_status(path));
+}
 
 mode_t ModeOf(const std::string& path)
 {
@@ -66,7 +69,11 @@ TEST_F(FileOpTest, IsFileExistMatchesExactSpellingOnly)
     fs::create_symlink(P("file"), P("link"));
     ASSERT_EQ(chdir(dir.c_str()), 0);
 
-    struct Row { const char* name; std::string path; bool plain, exact; } rows[] = {
+    struct Row {
+        const char* name;
+        std::string path;
+        bool plain, exact;
+    } rows[] = {
         {"folder", dir, true, true},
         {"trailing slash", dir + "/", true, false},
         {"slash dot", dir + "/.", true, false},
@@ -202,10 +209,14 @@ TEST_F(FileOpTest, MoveAcrossFileSystemsCopiesFilesTreesAndLinksButNotFifos)
     EXPECT_EQ(FSRename(P("fifo"), other + "/fifo", false), kFSRenameFailed);
     EXPECT_TRUE(Exists(P("fifo")));
     // No fifo among what arrived.
-    EXPECT_EQ(dwtest::Snapshot(other), (dwtest::Tree{{"file", "contents"}, {"alone", "-> ../some/target"},
-                                                     {"tree", "<dir>"}, {"tree/a.txt", "alpha"},
-                                                     {"tree/sub", "<dir>"}, {"tree/sub/nested.txt", "nested"},
-                                                     {"tree/sub/empty", "<dir>"}, {"tree/link", "-> a.txt"},
+    EXPECT_EQ(dwtest::Snapshot(other), (dwtest::Tree{{"file", "contents"},
+                                                     {"alone", "-> ../some/target"},
+                                                     {"tree", "<dir>"},
+                                                     {"tree/a.txt", "alpha"},
+                                                     {"tree/sub", "<dir>"},
+                                                     {"tree/sub/nested.txt", "nested"},
+                                                     {"tree/sub/empty", "<dir>"},
+                                                     {"tree/link", "-> a.txt"},
                                                      {"tree/dangling", "-> nowhere"}}));
 }
 
@@ -214,7 +225,13 @@ TEST_F(FileOpTest, MakeFolderAcceptsOnlyRealFolders)
     fs::create_directories(P("folder"));
     WriteFile(P("file"), "x");
     fs::create_symlink("folder", P("link"));
-    struct Row { const char* name; std::string path; bool parents; int result; bool made; } rows[] = {
+    struct Row {
+        const char* name;
+        std::string path;
+        bool parents;
+        int result;
+        bool made;
+    } rows[] = {
         {"existing folder", P("folder"), false, kFSOk, true},
         {"existing file", P("file"), true, kFSMKDirBadPath, false},
         {"link to a folder", P("link"), true, kFSMKDirBadPath, false},

@@ -88,11 +88,13 @@ struct ThresholdRow : dwtest::Row {
 };
 
 const ThresholdRow kThresholdRows[] = {
-    {"no_level_file", nullptr,
+    {"no_level_file",
+     nullptr,
      {"3 launcher_debug\n", "4 launcher_debug\n", "3 service_debug\n", "4 service_debug\n",
       "3 extractor_debug\n", "4 extractor_debug\n", "3 unknown\n", "4 unknown\n"}},
     // default_component is not a fall-back for components missing from the map.
-    {"level_file", "service_debug = 7\nextractor_debug=2\ndefault_component=7\n",
+    {"level_file",
+     "service_debug = 7\nextractor_debug=2\ndefault_component=7\n",
      {"3 launcher_debug\n", "4 launcher_debug\n", "3 service_debug\n", "4 service_debug\n",
       "5 service_debug\n", "6 service_debug\n", "7 service_debug\n", "3 unknown\n", "4 unknown\n"}},
 };
@@ -130,9 +132,14 @@ struct GarbageRow : dwtest::Row {
 };
 
 const GarbageRow kGarbageRows[] = {
-    {"malformed", "\x7f" "ELF\x01 launcher_debug = 7\n[section]\n", "' is malformed, default levels apply\n", 2},
-    {"not_a_number", "launcher_debug = loud\n", "': level of 'launcher_debug' is not a number, read as 0\n", 1},
-    {"digits_then_letters", "launcher_debug = 4x\n", "': level of 'launcher_debug' is not a number, read as 4\n", 2},
+    {"malformed",
+     "\x7f"
+     "ELF\x01 launcher_debug = 7\n[section]\n",
+     "' is malformed, default levels apply\n", 2},
+    {"not_a_number", "launcher_debug = loud\n", "': level of 'launcher_debug' is not a number, read as 0\n",
+     1},
+    {"digits_then_letters", "launcher_debug = 4x\n",
+     "': level of 'launcher_debug' is not a number, read as 4\n", 2},
 };
 
 class LoggerLevelFile : public LoggerTest, public testing::WithParamInterface<GarbageRow> {};
@@ -141,7 +148,8 @@ TEST_P(LoggerLevelFile, GarbageIsSaid)
 {
     const GarbageRow& row = GetParam();
     ASSERT_TRUE(WriteFile(dir.file("launcher.debug"), row.level_file));
-    ASSERT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, log.c_str(), dir.file("launcher.debug").c_str(), 50), 0);
+    ASSERT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, log.c_str(), dir.file("launcher.debug").c_str(), 50),
+              0);
     Logger::LogMsg(Logger::LOG_ERROR, "launcher_debug", "3\n");
     Logger::LogMsg(Logger::LOG_NOTE, "launcher_debug", "5\n");
     const std::vector<std::string> messages = messages_of(log);
@@ -224,7 +232,8 @@ TEST_F(LoggerTest, ThreadsLoseOrTearNoLineAcrossRotations)
         for (const std::string& message : messages_of(f)) {
             ++total;
             int t = -1, i = -1, text_start = 0;
-            ASSERT_EQ(sscanf(message.c_str(), "[WARNING] t%d(%d): %n", &t, &i, &text_start), 2) << f << ": " << message;
+            ASSERT_EQ(sscanf(message.c_str(), "[WARNING] t%d(%d): %n", &t, &i, &text_start), 2)
+                << f << ": " << message;
             ASSERT_EQ(message.substr(text_start), payload + "\n") << f << ": " << message;
             seen.insert({t, i});
         }
@@ -253,8 +262,8 @@ TEST_P(LoggerProcesses, SharingTheLogLoseNoLineAndKeepTheirOwnCounts)
     const std::filesystem::path folder = dir.path();
     std::vector<FILE*> writers;
     for (size_t w = 0; w < row.lines.size(); ++w) {
-        const std::string command = std::string(LOG_WRITER) + " " + log + " 50 w" + std::to_string(w)
-                                    + " " + std::to_string(row.lines[w]);
+        const std::string command = std::string(LOG_WRITER) + " " + log + " 50 w" + std::to_string(w) + " " +
+                                    std::to_string(row.lines[w]);
         writers.push_back(popen(command.c_str(), "r"));
         std::this_thread::sleep_for(std::chrono::milliseconds(row.stagger_ms));
     }
@@ -281,7 +290,8 @@ TEST_P(LoggerProcesses, SharingTheLogLoseNoLineAndKeepTheirOwnCounts)
         for (const std::string& message : messages_of(f)) {
             ++total;
             int w = -1, i = -1, text_start = 0;
-            ASSERT_EQ(sscanf(message.c_str(), "[WARNING] w%d(%d): %n", &w, &i, &text_start), 2) << f << ": " << message;
+            ASSERT_EQ(sscanf(message.c_str(), "[WARNING] w%d(%d): %n", &w, &i, &text_start), 2)
+                << f << ": " << message;
             ASSERT_EQ(message.substr(text_start), std::string(80, 'p') + "\n") << f << ": " << message;
             seen.insert({w, i});
             bytes[st.st_ino][w] += static_cast<long>(kStampLength + message.size());

@@ -89,14 +89,16 @@ protected:
         const auto log_start = static_cast<std::streamoff>(fs::file_size(g_log));
         Outcome out;
         QObject receiver;
-        QObject::connect(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateDialogText, &receiver,
-                         [&out](QString text) { out.texts.push_back(text); }, Qt::QueuedConnection);
-        QObject::connect(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress, &receiver,
-                         [&out](int total, int current) {
-                             out.progress.emplace_back(total, current);
-                             out.percent.push_back(current * 100 / total);
-                         },
-                         Qt::QueuedConnection);
+        QObject::connect(
+            Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateDialogText, &receiver,
+            [&out](QString text) { out.texts.push_back(text); }, Qt::QueuedConnection);
+        QObject::connect(
+            Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress, &receiver,
+            [&out](int total, int current) {
+                out.progress.emplace_back(total, current);
+                out.percent.push_back(current * 100 / total);
+            },
+            Qt::QueuedConnection);
 
         Extractor extractor;
         extractor.archive_path = archive.c_str();
@@ -145,7 +147,9 @@ struct WrittenRow : dwtest::Row {
 };
 
 const std::vector<Entry> kBundle = {{Entry::Folder, "Contents", ""},
-                                    {Entry::File, "Contents/drift-ui", "\x7f" "ELF"},
+                                    {Entry::File, "Contents/drift-ui",
+                                     "\x7f"
+                                     "ELF"},
                                     {Entry::File, "Contents/Info.plist", "<plist/>\n"},
                                     {Entry::Symlink, "Contents/current", "drift-ui"}};
 const std::vector<int> kQuarters = {25, 50, 75, 100};
@@ -154,15 +158,30 @@ const WrittenRow kWrittenRows[] = {
     {"tar_gz", kPax, ARCHIVE_FILTER_GZIP, kBundle, kQuarters},
     {"tar_zst", kPax, ARCHIVE_FILTER_ZSTD, kBundle, kQuarters},
     {"zip", ARCHIVE_FORMAT_ZIP, ARCHIVE_FILTER_NONE, kBundle, kQuarters},
-    {"seven_entries", kPax, ARCHIVE_FILTER_NONE,
-     {{Entry::File, "1", "a"}, {Entry::File, "2", "b"}, {Entry::File, "3", "c"}, {Entry::File, "4", "d"},
-      {Entry::File, "5", "e"}, {Entry::File, "6", "f"}, {Entry::File, "7", "g"}},
+    {"seven_entries",
+     kPax,
+     ARCHIVE_FILTER_NONE,
+     {{Entry::File, "1", "a"},
+      {Entry::File, "2", "b"},
+      {Entry::File, "3", "c"},
+      {Entry::File, "4", "d"},
+      {Entry::File, "5", "e"},
+      {Entry::File, "6", "f"},
+      {Entry::File, "7", "g"}},
      {14, 28, 42, 57, 71, 85, 100}},
-    {"dotdot_entry", kPax, ARCHIVE_FILTER_NONE,
-     {{Entry::File, "a", "1"}, {Entry::File, "b", "2"}, {Entry::File, "../outside/b", "3"}, {Entry::File, "c", "4"}},
+    {"dotdot_entry",
+     kPax,
+     ARCHIVE_FILTER_NONE,
+     {{Entry::File, "a", "1"},
+      {Entry::File, "b", "2"},
+      {Entry::File, "../outside/b", "3"},
+      {Entry::File, "c", "4"}},
      {25, 50}},
-    {"dotdot_hard_link_target", kPax, ARCHIVE_FILTER_NONE,
-     {{Entry::File, "a", "package"}, {Entry::Hardlink, "h", "../outside/a"}}, {50}},
+    {"dotdot_hard_link_target",
+     kPax,
+     ARCHIVE_FILTER_NONE,
+     {{Entry::File, "a", "package"}, {Entry::Hardlink, "h", "../outside/a"}},
+     {50}},
 };
 
 class ExtractorWrites : public ExtractorTest, public testing::WithParamInterface<WrittenRow> {};
@@ -208,7 +227,12 @@ const std::string kExtract2 = "[ERROR] extractor(#): archive_read_extract2 faile
 const CountRow kCountRows[] = {
     {"tar_zst", ARCHIVE_FILTER_ZSTD, false, kMany, kMany, 0, {}},
     {"tar_gz", ARCHIVE_FILTER_GZIP, false, kMany, kMany, 0, {}},
-    {"dotdot_tar_zst", ARCHIVE_FILTER_ZSTD, true, kMany + 1, 1, 0,
+    {"dotdot_tar_zst",
+     ARCHIVE_FILTER_ZSTD,
+     true,
+     kMany + 1,
+     1,
+     0,
      {"[ERROR] extractor(#): archive_read_extract2 failed: 'Path contains '..''"}},
     {"truncated_tar", ARCHIVE_FILTER_NONE, false, 2, 1, 4 << 20, {kExtract2, kCutShort + "tar archive'"}},
     {"truncated_tar_zst", ARCHIVE_FILTER_ZSTD, false, 2, 1, 4 << 20, {kExtract2, kCutShort + "zstd input'"}},
@@ -263,7 +287,8 @@ TEST_F(ExtractorTest, FailsBeforeWritingAnything)
     // passes: the count's 0 is told, not the extraction's failed header.
     std::string pax = dwtest::ReadFile(make({{Entry::File, std::string(150, 'n'), "x"}}));
     pax.replace(512, 3, "999");
-    const std::string damaged_zst = make({{Entry::File, "raw", pax}}, ARCHIVE_FORMAT_RAW, ARCHIVE_FILTER_ZSTD);
+    const std::string damaged_zst = make({{Entry::File, "raw", pax}}, ARCHIVE_FORMAT_RAW,
+                                         ARCHIVE_FILTER_ZSTD);
     const std::string itself = "[ERROR] extractor(#): entry '";
     const std::string refused = "' would take the place of the destination folder";
     const std::string failed = "[ERROR] extractor(#): Failed to calculate total file numbers, ret: ";
@@ -277,15 +302,26 @@ TEST_F(ExtractorTest, FailsBeforeWritingAnything)
     } rows[] = {
         {"empty_archive", empty, dest, {kInitializing}, {started(empty, dest), failed + "0"}},
         {"empty_tar_zst", empty_zst, dest, {kInitializing}, {started(empty_zst, dest), failed + "0"}},
-        {"damaged_first_header_zst", damaged_zst, dest, {kInitializing}, {started(damaged_zst, dest), failed + "0"}},
+        {"damaged_first_header_zst",
+         damaged_zst,
+         dest,
+         {kInitializing},
+         {started(damaged_zst, dest), failed + "0"}},
         // Count's failed open is the only one: Extract does not try again.
-        {"missing_archive", missing, dest, {kInitializing},
+        {"missing_archive",
+         missing,
+         dest,
+         {kInitializing},
          {started(missing, dest),
           "[ERROR] extractor(#): archive_read_open_filename failed: 'Failed to open '" + missing + "''",
           failed + "-1"}},
-        {"mtree_manifest", mtree, dest, {kInitializing},
+        {"mtree_manifest",
+         mtree,
+         dest,
+         {kInitializing},
          {started(mtree, dest),
-          "[ERROR] extractor(#): '" + mtree + "' is an mtree manifest, refused: a package carries its own files",
+          "[ERROR] extractor(#): '" + mtree +
+              "' is an mtree manifest, refused: a package carries its own files",
           failed + "-1"}},
         {"unnamed_entry", unnamed, dest, {kInitializing}, {started(unnamed, dest), itself + refused}},
         {"dots_and_slashes", dots, dest, {kInitializing}, {started(dots, dest), itself + "/./" + refused}},
@@ -326,9 +362,17 @@ TEST_F(ExtractorTest, ReplacesFilesKeepsFoldersAndWritesNothingOutside)
                             via);
     EXPECT_EQ(out.result, 0);
     EXPECT_TRUE(fs::is_symlink(via));
-    EXPECT_EQ(Snapshot(dest), (Tree{{"dir", "<dir>"}, {"dir/keep", "kept"}, {"dir/new", "n"}, {"f", "new"},
-                                    {"lnk", "<dir>"}, {"lnk/file", "x"}, {"abs", "<dir>"}, {"abs/y", "y"},
-                                    {"a", "package"}, {"sub", "<dir>"}, {"sub/h", "package"}}));
+    EXPECT_EQ(Snapshot(dest), (Tree{{"dir", "<dir>"},
+                                    {"dir/keep", "kept"},
+                                    {"dir/new", "n"},
+                                    {"f", "new"},
+                                    {"lnk", "<dir>"},
+                                    {"lnk/file", "x"},
+                                    {"abs", "<dir>"},
+                                    {"abs/y", "y"},
+                                    {"a", "package"},
+                                    {"sub", "<dir>"},
+                                    {"sub/h", "package"}}));
     EXPECT_TRUE(fs::equivalent(dest + "/a", dest + "/sub/h"));
 }
 

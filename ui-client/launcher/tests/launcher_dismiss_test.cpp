@@ -42,7 +42,8 @@ TEST(LauncherDismiss, EscapeAndCloseRequestLeaveTheUpgradeRunning)
     EXPECT_EQ(dialog, x.viewableWindow(kTitle)) << "dismissed while the old client was being stopped";
     EXPECT_TRUE(LinesWith(log(), "extract package:").isEmpty()) << "the stop ended early";
 
-    dwtest::WaitFor([&] { return !LinesWith(log(), "extract package:").isEmpty() || ended(); }, kRunTimeoutMs);
+    dwtest::WaitFor([&] { return !LinesWith(log(), "extract package:").isEmpty() || ended(); },
+                    kRunTimeoutMs);
     EXPECT_TRUE(x.tryToDismiss(dialog));
 
     ASSERT_TRUE(launcher.waitForFinished(kRunTimeoutMs));

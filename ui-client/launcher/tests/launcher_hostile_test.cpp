@@ -47,7 +47,7 @@ struct HostileCase : dwtest::Row {
     const char* gap;   // not null: that line is still missing, and why
 };
 
-const char kNfc[] = "Zo\xc3\xab \xc3\x85ngstr\xc3\xb6m";      // Zoë Ångström
+const char kNfc[] = "Zo\xc3\xab \xc3\x85ngstr\xc3\xb6m";     // Zoë Ångström
 const char kNfd[] = "Zoe\xcc\x88 A\xcc\x8angstro\xcc\x88m";  // the same, decomposed
 
 const HostileCase kCases[] = {
@@ -59,12 +59,14 @@ const HostileCase kCases[] = {
          return b.setBuild(2, package);
      },
      "Path contains '..'", nullptr},
-    {"empty_file_package", "home", [](TestBundle& b) { return b.setBuild(2, {}) && QFile(b.package()).resize(0); },
+    {"empty_file_package", "home",
+     [](TestBundle& b) { return b.setBuild(2, {}) && QFile(b.package()).resize(0); },
      "Failed to calculate total file numbers", nullptr},
     {"no_entries_package", "home", [](TestBundle& b) { return b.setBuild(2, {}); },
      "Failed to calculate total file numbers", nullptr},
     {"bundle_record_unreadable", "home",
-     [](TestBundle& b) { return MakeFolder(b.bundle() + "/Contents/Resources/INFO"); }, "Resources/INFO", nullptr},
+     [](TestBundle& b) { return MakeFolder(b.bundle() + "/Contents/Resources/INFO"); }, "Resources/INFO",
+     nullptr},
     {"bundle_record_malformed", "home",
      [](TestBundle& b) {
          return WriteFile(b.bundle() + "/Contents/Resources/INFO", "\x01\xff[Version\nbuild_version\n=\"2");
@@ -74,7 +76,9 @@ const HostileCase kCases[] = {
      [](TestBundle& b) { return MakeFolder(b.userApp() + "/Contents/Resources/INFO"); },
      "removing incomplete copy", nullptr},
     {"user_record_malformed", "home",
-     [](TestBundle& b) { return WriteFile(b.userApp() + "/Contents/Resources/INFO", "[Version\n\xfe\xff=="); },
+     [](TestBundle& b) {
+         return WriteFile(b.userApp() + "/Contents/Resources/INFO", "[Version\n\xfe\xff==");
+     },
      "removing incomplete copy", nullptr},
     // Read when the upgrade stops the client; -1 would signal every process.
     {"pid_file_negative", "home",
@@ -86,7 +90,10 @@ const HostileCase kCases[] = {
      },
      "ui.pid", nullptr},
     {"level_file_junk", "home",
-     [](TestBundle& b) { return WriteFile(b.bundle() + "/log/launcher.debug", "\x7f" "ELF\x02\x01 = \n[x]\n"); },
+     [](TestBundle& b) {
+         return WriteFile(b.bundle() + "/log/launcher.debug", "\x7f"
+                                                              "ELF\x02\x01 = \n[x]\n");
+     },
      "launcher.debug' is malformed", nullptr},
     {"home_nfc_with_blanks", kNfc, TruncatedUpgrade, "Failed to upgrade package", nullptr},
     {"home_nfd_with_blanks", kNfd, TruncatedUpgrade, "Failed to upgrade package", nullptr},
@@ -147,8 +154,9 @@ public:
     explicit SmallHome(TestBundle& b) : b_(b)
     {
         const QByteArray home = QFile::encodeName(b.home());
-        mounted_ = unshare(CLONE_NEWNS) == 0 && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0
-                   && mount("tmpfs", home.constData(), "tmpfs", 0, "size=8m") == 0;
+        mounted_ = unshare(CLONE_NEWNS) == 0 &&
+                   mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+                   mount("tmpfs", home.constData(), "tmpfs", 0, "size=8m") == 0;
     }
     ~SmallHome()
     {
@@ -163,10 +171,10 @@ public:
             return b_.run();
         // An exceeded limit must fail the write (EFBIG), not kill the launcher.
         const QString script = b_.home() + "/../limited.sh";
-        const QByteArray text = "#!/bin/sh\ntrap '' XFSZ\nexec prlimit --fsize=8388608 \""
-                                + QFile::encodeName(b_.executable()) + "\"\n";
-        if (!WriteFile(script, text)
-            || !QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner))
+        const QByteArray text = "#!/bin/sh\ntrap '' XFSZ\nexec prlimit --fsize=8388608 \"" +
+                                QFile::encodeName(b_.executable()) + "\"\n";
+        if (!WriteFile(script, text) ||
+            !QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner))
             return {};
         return b_.run(b_.environment(), script);
     }

@@ -36,8 +36,7 @@ TEST_P(LauncherLanguage, DialogSpeaksTheLanguageOfTheEnvironment)
     const RunResult r = b.run(env);
     ASSERT_TRUE(r.exited_with_zero) << qPrintable(r.err);
     // The language selection traces its choice on standard error.
-    EXPECT_TRUE(r.err.contains(QString("qPrintable(qstrDef)=[") + row.code + "\n]"))
-        << qPrintable(r.err);
+    EXPECT_TRUE(r.err.contains(QString("qPrintable(qstrDef)=[") + row.code + "\n]")) << qPrintable(r.err);
     const QString label = QString("label '") + QString::fromUtf8(row.ready) + "'";
     EXPECT_EQ(1, LinesWith(b.log(), label).size()) << qPrintable(b.log());
 }

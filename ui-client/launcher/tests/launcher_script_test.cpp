@@ -76,7 +76,9 @@ TEST_P(DialogScript, LabelIsCoveredByTheFontAndFitsTheDialog)
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, DialogScript, testing::ValuesIn(kCodes),
-                         [](const testing::TestParamInfo<const char*>& info) { return std::string(info.param); });
+                         [](const testing::TestParamInfo<const char*>& info) {
+                             return std::string(info.param);
+                         });
 
 }  // namespace
 

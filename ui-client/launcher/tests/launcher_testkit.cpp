@@ -16,9 +16,12 @@ std::string ClientScript(int build, ClientKind kind)
     return "#!/bin/sh\n"
            "here=$(cd \"$(dirname \"$0\")/../../..\" && pwd)\n"
            "echo \"pid=$$\" > \"$here/ui.pid\"\n"
-           "echo \"start " + n + " $$\" >> \"$here/clients.log\"\n"
-           "trap 'echo \"term " + n + " $$\" >> \"$here/clients.log\""
-           + (kind == ClientKind::ExitsOnTerm ? "; exit 0" : "") + "' TERM\n"
+           "echo \"start " +
+           n +
+           " $$\" >> \"$here/clients.log\"\n"
+           "trap 'echo \"term " +
+           n + " $$\" >> \"$here/clients.log\"" + (kind == ClientKind::ExitsOnTerm ? "; exit 0" : "") +
+           "' TERM\n"
            "for i in $(seq 600); do sleep 1; done\n";
 }
 
@@ -26,8 +29,8 @@ std::string ClientScript(int build, ClientKind kind)
 
 QByteArray InfoRecord(int build)
 {
-    return "[Version]\nmajor_version=1\nminor_version=0\nbuild_version=" + QByteArray::number(build)
-           + "\nicon_overlay_version=1\n";
+    return "[Version]\nmajor_version=1\nminor_version=0\nbuild_version=" + QByteArray::number(build) +
+           "\nicon_overlay_version=1\n";
 }
 
 Package ClientPackage(int build, int filler_count, ClientKind kind)
@@ -62,8 +65,8 @@ TestBundle::~TestBundle()
 
 bool TestBundle::setBuild(int build, const Package& package) const
 {
-    return dwtest::WriteFile(bundle() + "/Contents/Resources/INFO", InfoRecord(build))
-           && dwtest::WriteArchive(QFile::encodeName(this->package()).toStdString(), package);
+    return dwtest::WriteFile(bundle() + "/Contents/Resources/INFO", InfoRecord(build)) &&
+           dwtest::WriteArchive(QFile::encodeName(this->package()).toStdString(), package);
 }
 
 bool TestBundle::setTruncatedBuild(int build) const
@@ -76,7 +79,8 @@ bool TestBundle::setTruncatedBuild(int build) const
 
 bool TestBundle::install(int build, const Package& package) const
 {
-    return setBuild(build, package) && run().exited_with_zero && waitForClientEvent(QString("start %1").arg(build));
+    return setBuild(build, package) && run().exited_with_zero &&
+           waitForClientEvent(QString("start %1").arg(build));
 }
 
 qint64 TestBundle::clientPid() const
@@ -87,7 +91,8 @@ qint64 TestBundle::clientPid() const
 bool TestBundle::stopClient(int build) const
 {
     const qint64 pid = clientPid();
-    return pid > 0 && kill(static_cast<pid_t>(pid), SIGTERM) == 0 && waitForClientEvent(QString("term %1").arg(build));
+    return pid > 0 && kill(static_cast<pid_t>(pid), SIGTERM) == 0 &&
+           waitForClientEvent(QString("term %1").arg(build));
 }
 
 QList<qint64> TestBundle::processes() const
@@ -96,8 +101,8 @@ QList<qint64> TestBundle::processes() const
     QList<qint64> pids;
     for (const QString& name : QDir("/proc").entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
         const qint64 pid = name.toLongLong();
-        if (pid > 0 && pid != getpid() && !dwtest::ProcessGone(static_cast<pid_t>(pid))
-            && dwtest::ReadFile("/proc/" + name + "/cmdline").contains(mine))
+        if (pid > 0 && pid != getpid() && !dwtest::ProcessGone(static_cast<pid_t>(pid)) &&
+            dwtest::ReadFile("/proc/" + name + "/cmdline").contains(mine))
             pids.append(pid);
     }
     return pids;
@@ -125,8 +130,8 @@ RunResult TestBundle::run(const QProcessEnvironment& env, const QString& program
     process.start(program.isEmpty() ? executable() : program, QStringList());
     RunResult result;
     // One that does not end in time is killed with the QProcess.
-    result.exited_with_zero = process.waitForFinished(kRunTimeoutMs)
-                              && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    result.exited_with_zero = process.waitForFinished(kRunTimeoutMs) &&
+                              process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
     result.out = QString::fromUtf8(process.readAllStandardOutput());
     result.err = QString::fromUtf8(process.readAllStandardError());
     return result;
@@ -153,7 +158,8 @@ QString TestBundle::log() const
 bool TestBundle::waitForClientEvent(const QString& event, int times) const
 {
     const auto seen = [&] {
-        return LinesWith(QString::fromUtf8(dwtest::ReadFile(userDir() + "/clients.log")), event + " ").size() >= times;
+        return LinesWith(QString::fromUtf8(dwtest::ReadFile(userDir() + "/clients.log")), event + " ")
+                   .size() >= times;
     };
     return dwtest::WaitFor(seen, kWaitTimeoutMs);
 }

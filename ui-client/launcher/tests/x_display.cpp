@@ -22,11 +22,11 @@ bool HasTitle(Display* dpy, Window window, const QByteArray& title)
     int format = 0;
     unsigned long items = 0, after = 0;
     unsigned char* data = nullptr;
-    if (XGetWindowProperty(dpy, window, name, 0, 1024, False, AnyPropertyType, &type, &format,
-                           &items, &after, &data) != Success)
+    if (XGetWindowProperty(dpy, window, name, 0, 1024, False, AnyPropertyType, &type, &format, &items, &after,
+                           &data) != Success)
         return false;
-    const bool same = data != nullptr && format == 8 && items == static_cast<unsigned long>(title.size())
-                      && std::memcmp(data, title.constData(), items) == 0;
+    const bool same = data != nullptr && format == 8 && items == static_cast<unsigned long>(title.size()) &&
+                      std::memcmp(data, title.constData(), items) == 0;
     if (data != nullptr)
         XFree(data);
     return same;
@@ -75,8 +75,8 @@ unsigned long XDisplay::viewableWindow(const QByteArray& title)
         return 0;
     for (unsigned int i = 0; i < count && found == 0; ++i) {
         XWindowAttributes attributes;
-        if (XGetWindowAttributes(dpy, children[i], &attributes) != 0
-            && attributes.map_state == IsViewable && HasTitle(dpy, children[i], title))
+        if (XGetWindowAttributes(dpy, children[i], &attributes) != 0 && attributes.map_state == IsViewable &&
+            HasTitle(dpy, children[i], title))
             found = children[i];
     }
     if (children != nullptr)

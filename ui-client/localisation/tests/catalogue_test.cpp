@@ -36,8 +36,9 @@ const Language kLanguages[] = {
     {"plk", "pl_PL"}, {"hun", "hu_HU"}, {"ptg", "pt_PT"}, {"trk", "tr_TR"}, {"csy", "cs_CZ"},
 };
 
-const char* const kMonthKeys[] = {"month_jan", "month_feb", "month_mar", "month_apr", "month_may", "month_jun",
-                                  "month_jul", "month_aug", "month_sep", "month_oct", "month_nov", "month_dec"};
+const char* const kMonthKeys[] = {"month_jan", "month_feb", "month_mar", "month_apr",
+                                  "month_may", "month_jun", "month_jul", "month_aug",
+                                  "month_sep", "month_oct", "month_nov", "month_dec"};
 const char* const kDayKeys[] = {"monday", "tuesday", "wednesday", "thursday", "friday", "saturday", "sunday"};
 
 QStringList Matches(const QString& pattern, const QString& text)
@@ -219,6 +220,8 @@ TEST_P(Catalogue, TranslatesExactlyTheTableTextsKeepingTheirMarkers)
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, Catalogue, testing::ValuesIn(kLanguages),
-                         [](const testing::TestParamInfo<Language>& info) { return std::string(info.param.code); });
+                         [](const testing::TestParamInfo<Language>& info) {
+                             return std::string(info.param.code);
+                         });
 
 }  // namespace

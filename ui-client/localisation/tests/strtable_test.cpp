@@ -71,7 +71,8 @@ TEST(StrTable, GermanCatalogueUnderContextGlobal)
 // (never the key), no disambiguation, n = -1.
 class EscapesTranslator : public QTranslator {
 public:
-    QString translate(const char* context, const char* sourceText, const char* disambiguation, int n) const override
+    QString translate(const char* context, const char* sourceText, const char* disambiguation,
+                      int n) const override
     {
         if (qstrcmp(context, "global") == 0 && qstrcmp(sourceText, kReady) == 0 && !disambiguation && n == -1)
             return QStringLiteral("a\\nb\\tc\\N\\T\nd\\\\ne");

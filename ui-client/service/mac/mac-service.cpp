@@ -99,12 +99,10 @@ void MacService::PreUpgrade()
     Service::LoadSourceVersion();
     Logger::LogMsg(Logger::LOG_DEBUG, kComponent,
                    "[DEBUG] mac/mac-service(%d): Source version: ('%s', '%s')\n", __LINE__,
-                   source_version.build_version.c_str(),
-                   source_version.icon_overlay_version.c_str());
+                   source_version.build_version.c_str(), source_version.icon_overlay_version.c_str());
     Logger::LogMsg(Logger::LOG_DEBUG, kComponent,
                    "[DEBUG] mac/mac-service(%d): Target version: ('%s', '%s')\n", __LINE__,
-                   target_version.build_version.c_str(),
-                   target_version.icon_overlay_version.c_str());
+                   target_version.build_version.c_str(), target_version.icon_overlay_version.c_str());
 }
 
 bool MacService::IsNeedUpgrade()
@@ -116,8 +114,8 @@ bool MacService::IsNeedUpgrade()
                            ? 0
                            : std::atoi(target_version.build_version.c_str_utf8());
     Logger::LogMsg(Logger::LOG_DEBUG, kComponent,
-                   "[DEBUG] mac/mac-service(%d): source version = %d, target version = %d\n",
-                   __LINE__, source, target);
+                   "[DEBUG] mac/mac-service(%d): source version = %d, target version = %d\n", __LINE__,
+                   source, target);
     // A copy without its executable is reinstalled even from an older bundle;
     // one without a build in its record is an extraction cut short.
     const bool installed = PerUserBinPathExist();
@@ -127,8 +125,8 @@ bool MacService::IsNeedUpgrade()
 int MacService::HandlePackageUpgrade()
 {
     if (PerUserBinPathExist()) {
-        Logger::LogMsg(Logger::LOG_DEBUG, kComponent,
-                       "[DEBUG] mac/mac-service(%d): local appdata exist\n", __LINE__);
+        Logger::LogMsg(Logger::LOG_DEBUG, kComponent, "[DEBUG] mac/mac-service(%d): local appdata exist\n",
+                       __LINE__);
         StopService();
     }
     return PrepareUserEnv();
@@ -170,12 +168,12 @@ void MacService::StopService()
     if (pid <= 0) {
         if (!problem.empty()) {
             Logger::LogMsg(Logger::LOG_WARNING, kComponent,
-                           "[WARNING] mac/mac-service(%d): pid file '%s' is unusable: %s\n",
-                           __LINE__, pid_path.c_str(), problem.c_str());
+                           "[WARNING] mac/mac-service(%d): pid file '%s' is unusable: %s\n", __LINE__,
+                           pid_path.c_str(), problem.c_str());
         }
         Logger::LogMsg(Logger::LOG_NOTE, kComponent,
-                       "[NOTE] mac/mac-service(%d): Failed to read pid file '%s', not exist ?\n",
-                       __LINE__, pid_path.c_str());
+                       "[NOTE] mac/mac-service(%d): Failed to read pid file '%s', not exist ?\n", __LINE__,
+                       pid_path.c_str());
         return;
     }
 

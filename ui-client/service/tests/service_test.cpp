@@ -211,34 +211,85 @@ struct DecideRow : dwtest::Row {
 };
 
 const DecideRow kDecideRows[] = {
-    {"first_installation", "[Version]\nbuild_version=5\n", nullptr, false, true, 0, 5,
-     {"[INFO] drift-service(N): target_version = (, , 5, )",
-      "[INFO] drift-service(N): source does not exist",
+    {"first_installation",
+     "[Version]\nbuild_version=5\n",
+     nullptr,
+     false,
+     true,
+     0,
+     5,
+     {"[INFO] drift-service(N): target_version = (, , 5, )", "[INFO] drift-service(N): source does not exist",
       "[DEBUG] mac/mac-service(N): Source version: ('', '')",
       "[DEBUG] mac/mac-service(N): Target version: ('5', '')",
       "[DEBUG] mac/mac-service(N): source version = 0, target version = 5"},
      nullptr},
-    {"numbers_not_texts", "[Version]\nbuild_version=120\n", "[Version]\nbuild_version=1000\n", true, false,
-     1000, 120, {}, nullptr},
+    {"numbers_not_texts",
+     "[Version]\nbuild_version=120\n",
+     "[Version]\nbuild_version=1000\n",
+     true,
+     false,
+     1000,
+     120,
+     {},
+     nullptr},
     {"equal_builds_other_fields_differ",
      "[Version]\nmajor_version=9\nbuild_version=7\nicon_overlay_version=3\n",
-     "[Version]\nmajor_version=1\nminor_version=2\nbuild_version=7\nicon_overlay_version=1\n", true, false, 7, 7,
+     "[Version]\nmajor_version=1\nminor_version=2\nbuild_version=7\nicon_overlay_version=1\n",
+     true,
+     false,
+     7,
+     7,
      {"[INFO] drift-service(N): target_version = (9, , 7, 3)",
       "[INFO] drift-service(N): source_version = (1, 2, 7, 1)",
       "[DEBUG] mac/mac-service(N): Source version: ('7', '1')",
       "[DEBUG] mac/mac-service(N): Target version: ('7', '3')",
       "[DEBUG] mac/mac-service(N): source version = 7, target version = 7"},
      nullptr},
-    {"negative_source_empty_target", "[Version]\nmajor_version=1\n", "[Version]\nbuild_version=-1\n", true,
-     true, -1, 0, {}, "has no build number"},
-    {"digits_then_letters", "[Version]\nbuild_version=1234abc\n", "[Version]\nbuild_version=1233\n", true,
-     true, 1233, 1234, {}, "has a build number that is not a number"},
-    {"leading_letter", "[Version]\nbuild_version=abc\n", "[Version]\nbuild_version=1\n", true, false, 1, 0,
-     {}, "has a build number that is not a number"},
-    {"executable_missing_older_bundle", "[Version]\nbuild_version=1\n", "[Version]\nbuild_version=1000\n",
-     false, true, 1000, 1, {}, nullptr},
-    {"keys_outside_the_group", "build_version=99\n[Other]\nbuild_version=98\n",
-     "[Version]\nbuild_version=10\n", true, false, 10, 0, {}, "has no build number"},
+    {"negative_source_empty_target",
+     "[Version]\nmajor_version=1\n",
+     "[Version]\nbuild_version=-1\n",
+     true,
+     true,
+     -1,
+     0,
+     {},
+     "has no build number"},
+    {"digits_then_letters",
+     "[Version]\nbuild_version=1234abc\n",
+     "[Version]\nbuild_version=1233\n",
+     true,
+     true,
+     1233,
+     1234,
+     {},
+     "has a build number that is not a number"},
+    {"leading_letter",
+     "[Version]\nbuild_version=abc\n",
+     "[Version]\nbuild_version=1\n",
+     true,
+     false,
+     1,
+     0,
+     {},
+     "has a build number that is not a number"},
+    {"executable_missing_older_bundle",
+     "[Version]\nbuild_version=1\n",
+     "[Version]\nbuild_version=1000\n",
+     false,
+     true,
+     1000,
+     1,
+     {},
+     nullptr},
+    {"keys_outside_the_group",
+     "build_version=99\n[Other]\nbuild_version=98\n",
+     "[Version]\nbuild_version=10\n",
+     true,
+     false,
+     10,
+     0,
+     {},
+     "has no build number"},
     {"no_bundle_record", nullptr, "[Version]\nbuild_version=10\n", true, false, 10, 0, {}, "cannot be read"},
     {"copy_without_record", "[Version]\nbuild_version=0\n", nullptr, true, true, 0, 0, {}, nullptr},
 };
@@ -255,8 +306,8 @@ TEST_P(ServiceDecides, OnBuildNumbersAndTheExecutable)
     EXPECT_EQ(Run({"decide"}), row.need ? "1" : "0");
     const Lines log = ServiceLog();
     const std::string decision = "[DEBUG] mac/mac-service(N): source version = " +
-                                 std::to_string(row.source_number) + ", target version = " +
-                                 std::to_string(row.target_number);
+                                 std::to_string(row.source_number) +
+                                 ", target version = " + std::to_string(row.target_number);
     EXPECT_NE(std::find(log.begin(), log.end(), decision), log.end());
     if (!row.log.empty()) {
         EXPECT_EQ(log, row.log);
@@ -286,14 +337,12 @@ TEST_F(ServiceTest, StopSignalsOnlyAPidFileNamingTheClient)
         _exit(127);
     }
     // Until exec has happened the child still runs our test program.
-    ASSERT_TRUE(WaitFor([&] {
-        return ReadFile("/proc/" + std::to_string(other) + "/cmdline").rfind("sleep", 0) == 0;
-    }));
+    ASSERT_TRUE(WaitFor(
+        [&] { return ReadFile("/proc/" + std::to_string(other) + "/cmdline").rfind("sleep", 0) == 0; }));
     const std::string c = std::to_string(client), o = std::to_string(other);
     const auto unusable = [&](const std::string& why) {
         return Lines{"[WARNING] mac/mac-service(N): pid file '" + pid_file_ + "' is unusable: " + why,
-                     "[NOTE] mac/mac-service(N): Failed to read pid file '" + pid_file_ +
-                         "', not exist ?"};
+                     "[NOTE] mac/mac-service(N): Failed to read pid file '" + pid_file_ + "', not exist ?"};
     };
     const auto not_a_pid = [&](const std::string& text) {
         return unusable("pid '" + text + "' is not a process id");
@@ -303,10 +352,12 @@ TEST_F(ServiceTest, StopSignalsOnlyAPidFileNamingTheClient)
         std::string text;  // empty: no pid file
         Lines log;
     } rows[] = {
-        {"no_pid_file", "",
+        {"no_pid_file",
+         "",
          {"[DEBUG] mac/mac-service(N): pid file '" + pid_file_ + "' does not exist, no need to terminate"}},
         {"stale", "pid=" + std::to_string(ended) + "\n", {}},
-        {"reused_by_another_program", "pid=" + o + "\n",
+        {"reused_by_another_program",
+         "pid=" + o + "\n",
          {"[NOTE] mac/mac-service(N): pid " + o + " is not the Driftwell UI, not signalled"}},
         {"zero", "pid=0\n", not_a_pid("0")},
         {"negative", "pid=-1\n", not_a_pid("-1")},
@@ -349,7 +400,8 @@ TEST_F(ServiceTest, StopAsAnotherUserThanTheClient)
     // Script client of root: recognised through its command line, but it
     // refuses every signal; the whole sequence runs and fails.
     ASSERT_TRUE(WriteFile(app_ + "/Contents/MacOS/drift-ui",
-                          "#!/bin/sh\necho pid=$$ > \"$HOME/.Driftwell/ui.pid\"\nwhile :; do sleep 1; done\n", 0755));
+                          "#!/bin/sh\necho pid=$$ > \"$HOME/.Driftwell/ui.pid\"\nwhile :; do sleep 1; done\n",
+                          0755));
     const pid_t script = StartClient("term");
     ASSERT_GT(script, 0);
     EXPECT_GE(std::stoi(Run({"stop"}, kNobody)), 4900);
@@ -384,8 +436,8 @@ TEST_F(ServiceTest, StopEndsTheClientBySigtermOrElseBySigkillAfterTheProbes)
 // a backup name, stale backups in any of the ten names. None of it may block
 // the upgrade, and a rollback only ever puts a complete copy in place.
 const int kApp = 10;
-const std::map<int, int> kAllTaken = {{0, 1}, {1, -1}, {2, 1}, {3, -1}, {4, 1},
-                                      {5, -1}, {6, 1}, {7, -1}, {8, 1}, {9, -1}};
+const std::map<int, int> kAllTaken = {{0, 1},  {1, -1}, {2, 1},  {3, -1}, {4, 1},
+                                      {5, -1}, {6, 1},  {7, -1}, {8, 1},  {9, -1}};
 
 struct UpgradeRow : dwtest::Row {
     int app;                     // build of the copy in place (as InstallOldCopy)
@@ -404,8 +456,14 @@ const UpgradeRow kUpgradeRows[] = {
     {"partial_copy_old_one_backed_up", -1, {{0, 1}}, false, "0", -1, "incomplete kept0", false},
     {"partial_copy_then_damaged_package", -1, {{0, 1}}, true, "-1", 0, "incomplete kept0 restoring0", false},
     {"only_a_backup_then_damaged_package", 0, {{0, 1}}, true, "-1", 0, "kept0 restoring0", false},
-    {"newest_complete_backup_restored", -1, {{0, 1}, {3, 5}, {4, -1}}, true, "-1", 3,
-     "incomplete kept3 leftover0 leftover4 restoring3", false},
+    {"newest_complete_backup_restored",
+     -1,
+     {{0, 1}, {3, 5}, {4, -1}},
+     true,
+     "-1",
+     3,
+     "incomplete kept3 leftover0 leftover4 restoring3",
+     false},
     {"rollback_without_leftovers", 1, {}, true, "-1", kApp, "restoring0", false},
     {"unremovable_leftovers", 1, kAllTaken, false, "-1", kApp, "leftovers", true},
 };
@@ -445,8 +503,10 @@ TEST_P(ServiceUpgrades, RecoversWhatInterruptedRunsLeft)
         InstallOldCopy(Bak(number), build);
     const Tree before = row.restored < 0 ? Tree() : Snapshot(row.restored == kApp ? app_ : Bak(row.restored));
     std::vector<Entry> damaged = NewPackage();
-    damaged.insert(damaged.begin() + 3, {Entry::File, "Contents/MacOS/big.bin", std::string(200000, 'x'), 0755});
-    ASSERT_TRUE(dwtest::WriteArchive(Package(), row.damaged ? damaged : NewPackage(), {}, row.damaged ? -100000 : 0));
+    damaged.insert(damaged.begin() + 3,
+                   {Entry::File, "Contents/MacOS/big.bin", std::string(200000, 'x'), 0755});
+    ASSERT_TRUE(
+        dwtest::WriteArchive(Package(), row.damaged ? damaged : NewPackage(), {}, row.damaged ? -100000 : 0));
     pid_t client = 0;
     if (row.app > 0 && !row.locked) {
         ASSERT_GT(client = StartClient("term"), 0);
@@ -464,8 +524,8 @@ TEST_P(ServiceUpgrades, RecoversWhatInterruptedRunsLeft)
         EXPECT_EQ(Exists(Bak(i)), row.locked) << Bak(i);
     if (row.locked) {
         const Lines log = ServiceLog();
-        EXPECT_EQ(log.back(), "[ERROR] drift-service(N): failed to backup app from '" + app_ + "' -> '" + Bak(9) +
-                                  "' at max retries, exiting");
+        EXPECT_EQ(log.back(), "[ERROR] drift-service(N): failed to backup app from '" + app_ + "' -> '" +
+                                  Bak(9) + "' at max retries, exiting");
     }
     if (client > 0) {
         EXPECT_TRUE(WaitFor([&] { return ProcessGone(client); }));
@@ -481,9 +541,10 @@ TEST_F(ServiceTest, FailedFirstInstallationKeepsThePartialCopy)
     ASSERT_TRUE(dwtest::WriteArchive(Package(), package));
 
     EXPECT_EQ(Run({"upgrade"}), "-1");
-    EXPECT_EQ(ServiceLog(),
-              (Lines{"[INFO] drift-service(N): extract package: '" + Package() + "' -> '" + app_ + "'",
-                     "[ERROR] drift-service(N): Failed to extract package, and no old installation to rollback"}));
+    EXPECT_EQ(
+        ServiceLog(),
+        (Lines{"[INFO] drift-service(N): extract package: '" + Package() + "' -> '" + app_ + "'",
+               "[ERROR] drift-service(N): Failed to extract package, and no old installation to rollback"}));
     EXPECT_EQ(Snapshot(app_), dwtest::TreeOf(NewPackage()));
 }
 
@@ -537,7 +598,7 @@ struct AgedRow : dwtest::Row {
 };
 
 const AgedRow kAgedRows[] = {
-    {"current_copy", true, 2, true},   {"newer_copy", false, 3, true},  {"older_copy", true, 1, false},
+    {"current_copy", true, 2, true},    {"newer_copy", false, 3, true}, {"older_copy", true, 1, false},
     {"partial_copy", false, -1, false}, {"no_copy", false, 0, false},
 };
 
@@ -589,8 +650,8 @@ TEST_F(ServiceTest, CopyPathCopiesTreesAndAnUnlistableFolderAsAnEmptyOne)
                                    {"sub/deeper/b.txt", "bb"}}));
     const Lines log = ServiceLog();
     EXPECT_NE(std::find(log.begin(), log.end(),
-                        "[WARNING] drift-service(N): FSCopyPath: failed to create handle  for src '" +
-                            src + "/locked' failed"),
+                        "[WARNING] drift-service(N): FSCopyPath: failed to create handle  for src '" + src +
+                            "/locked' failed"),
               log.end());
 }
 

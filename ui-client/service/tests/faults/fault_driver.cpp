@@ -81,8 +81,11 @@ bool ParseCall(const QByteArray& line, Call& call)
 class PhaseTracker {
 public:
     PhaseTracker(const QString& app, bool damaged)
-        : app_(app), backup_(app + "_tmp"), pid_file_(QFileInfo(app).path() + "/ui.pid"),
-          record_(app + "/Contents/Resources/INFO"), damaged_(damaged)
+        : app_(app),
+          backup_(app + "_tmp"),
+          pid_file_(QFileInfo(app).path() + "/ui.pid"),
+          record_(app + "/Contents/Resources/INFO"),
+          damaged_(damaged)
     {
     }
 
@@ -271,8 +274,7 @@ private:
         if (!b.ok() || !WriteFile(b.bundle() + "/log/launcher.debug", "") ||
             !WriteFile(b.bundle() + "/Contents/Resources/INFO", InfoRecord(kNewBuild)) ||
             !WriteFile(b.package(), damaged ? damaged_package_ : new_package_) ||
-            !QDir().mkpath(b.userDir()) ||
-            QProcess::execute("cp", {"-a", old_copy_, b.userApp()}) != 0)
+            !QDir().mkpath(b.userDir()) || QProcess::execute("cp", {"-a", old_copy_, b.userApp()}) != 0)
             return Fail("cannot set up a bundle");
         QProcess client;
         client.setProgram(b.userApp() + "/Contents/MacOS/drift-ui");
@@ -282,7 +284,8 @@ private:
         qint64 pid = 0;
         if (!client.startDetached(&pid))
             return Fail("cannot start the old client");
-        return dwtest::WaitFor([&] { return b.clientPid() == pid; }, 5000) || Fail("the old client wrote no pid file");
+        return dwtest::WaitFor([&] { return b.clientPid() == pid; }, 5000) ||
+               Fail("the old client wrote no pid file");
     }
 
     struct Outcome {
@@ -397,10 +400,8 @@ private:
             plan.signal_at = std::uniform_int_distribution<long>(c.first[phase], c.last[phase])(rng);
             how = QString("a signal once call %1 is traced").arg(plan.signal_at);
         }
-        const QString what = QString("trial %1: %2 by %3")
-                                 .arg(t)
-                                 .arg(point < 5 ? kPhaseNames[phase] : "any call")
-                                 .arg(how);
+        const QString what =
+            QString("trial %1: %2 by %3").arg(t).arg(point < 5 ? kPhaseNames[phase] : "any call").arg(how);
         TestBundle b;
         const QString trace = work_.path() + "/trace";
         QFile::remove(trace);

@@ -29,10 +29,10 @@ static int g_trace = -1;
 static unsigned long g_kill_at;
 static unsigned long g_count;
 
-#define REAL(type, name) \
-    static __typeof__(type) real_##name; \
-    if (real_##name == NULL) \
-        real_##name = (type)dlsym(RTLD_NEXT, #name)
+#define REAL(type, name)                                                                                     \
+    static __typeof__(type) real_##name;                                                                     \
+    if (real_##name == NULL)                                                                                 \
+    real_##name = (type)dlsym(RTLD_NEXT, #name)
 
 __attribute__((constructor)) static void setup(void)
 {
@@ -77,8 +77,7 @@ static void absolute(int dirfd, const char* path, char* out)
 
 static int below_root(const char* path)
 {
-    return strncmp(path, g_root, g_root_len) == 0 &&
-           (path[g_root_len] == '/' || path[g_root_len] == '\0');
+    return strncmp(path, g_root, g_root_len) == 0 && (path[g_root_len] == '/' || path[g_root_len] == '\0');
 }
 
 // path NULL: always counted (a signal).
@@ -100,8 +99,7 @@ static void note(const char* call, int dirfd, const char* path, int dirfd2, cons
         clock_gettime(CLOCK_MONOTONIC, &now);
         char line[3 * PATH_MAX];
         const int len = snprintf(line, sizeof line, "%lu\t%lld\t%s\t%s\t%s\n", n,
-                                 (long long)now.tv_sec * 1000000 + now.tv_nsec / 1000, call, first,
-                                 second);
+                                 (long long)now.tv_sec * 1000000 + now.tv_nsec / 1000, call, first, second);
         if (len > 0 && write(g_trace, line, (size_t)len < sizeof line ? (size_t)len : sizeof line) < 0)
             g_trace = -1;
     }
@@ -114,64 +112,64 @@ static mode_t mode_arg(int flags, va_list args)
     return (flags & (O_CREAT | O_TMPFILE)) != 0 ? (mode_t)va_arg(args, int) : 0;
 }
 
-#define OPEN_LIKE(name) \
-    int name(const char* path, int flags, ...) \
-    { \
-        va_list args; \
-        va_start(args, flags); \
-        const mode_t mode = mode_arg(flags, args); \
-        va_end(args); \
-        note(#name, AT_FDCWD, path, AT_FDCWD, NULL); \
-        REAL(int (*)(const char*, int, ...), name); \
-        return real_##name(path, flags, mode); \
+#define OPEN_LIKE(name)                                                                                      \
+    int name(const char* path, int flags, ...)                                                               \
+    {                                                                                                        \
+        va_list args;                                                                                        \
+        va_start(args, flags);                                                                               \
+        const mode_t mode = mode_arg(flags, args);                                                           \
+        va_end(args);                                                                                        \
+        note(#name, AT_FDCWD, path, AT_FDCWD, NULL);                                                         \
+        REAL(int (*)(const char*, int, ...), name);                                                          \
+        return real_##name(path, flags, mode);                                                               \
     }
 OPEN_LIKE(open)
 OPEN_LIKE(open64)
 
-#define OPENAT_LIKE(name) \
-    int name(int dirfd, const char* path, int flags, ...) \
-    { \
-        va_list args; \
-        va_start(args, flags); \
-        const mode_t mode = mode_arg(flags, args); \
-        va_end(args); \
-        note(#name, dirfd, path, AT_FDCWD, NULL); \
-        REAL(int (*)(int, const char*, int, ...), name); \
-        return real_##name(dirfd, path, flags, mode); \
+#define OPENAT_LIKE(name)                                                                                    \
+    int name(int dirfd, const char* path, int flags, ...)                                                    \
+    {                                                                                                        \
+        va_list args;                                                                                        \
+        va_start(args, flags);                                                                               \
+        const mode_t mode = mode_arg(flags, args);                                                           \
+        va_end(args);                                                                                        \
+        note(#name, dirfd, path, AT_FDCWD, NULL);                                                            \
+        REAL(int (*)(int, const char*, int, ...), name);                                                     \
+        return real_##name(dirfd, path, flags, mode);                                                        \
     }
 OPENAT_LIKE(openat)
 OPENAT_LIKE(openat64)
 
 // The fortified forms, called where the mode argument is absent.
-#define OPEN_2(name) \
-    int name(const char* path, int flags); \
-    int name(const char* path, int flags) \
-    { \
-        note(#name, AT_FDCWD, path, AT_FDCWD, NULL); \
-        REAL(int (*)(const char*, int), name); \
-        return real_##name(path, flags); \
+#define OPEN_2(name)                                                                                         \
+    int name(const char* path, int flags);                                                                   \
+    int name(const char* path, int flags)                                                                    \
+    {                                                                                                        \
+        note(#name, AT_FDCWD, path, AT_FDCWD, NULL);                                                         \
+        REAL(int (*)(const char*, int), name);                                                               \
+        return real_##name(path, flags);                                                                     \
     }
 OPEN_2(__open_2)
 OPEN_2(__open64_2)
 
-#define OPENAT_2(name) \
-    int name(int dirfd, const char* path, int flags); \
-    int name(int dirfd, const char* path, int flags) \
-    { \
-        note(#name, dirfd, path, AT_FDCWD, NULL); \
-        REAL(int (*)(int, const char*, int), name); \
-        return real_##name(dirfd, path, flags); \
+#define OPENAT_2(name)                                                                                       \
+    int name(int dirfd, const char* path, int flags);                                                        \
+    int name(int dirfd, const char* path, int flags)                                                         \
+    {                                                                                                        \
+        note(#name, dirfd, path, AT_FDCWD, NULL);                                                            \
+        REAL(int (*)(int, const char*, int), name);                                                          \
+        return real_##name(dirfd, path, flags);                                                              \
     }
 OPENAT_2(__openat_2)
 OPENAT_2(__openat64_2)
 
 // One path argument, any others passed through.
-#define PATH_CALL(ret, name, params, args, path) \
-    ret name params \
-    { \
-        note(#name, AT_FDCWD, path, AT_FDCWD, NULL); \
-        REAL(ret(*) params, name); \
-        return real_##name args; \
+#define PATH_CALL(ret, name, params, args, path)                                                             \
+    ret name params                                                                                          \
+    {                                                                                                        \
+        note(#name, AT_FDCWD, path, AT_FDCWD, NULL);                                                         \
+        REAL(ret(*) params, name);                                                                           \
+        return real_##name args;                                                                             \
     }
 PATH_CALL(int, creat, (const char* p, mode_t m), (p, m), p)
 PATH_CALL(FILE*, fopen, (const char* p, const char* m), (p, m), p)
@@ -182,35 +180,33 @@ PATH_CALL(int, unlink, (const char* p), (p), p)
 PATH_CALL(int, rmdir, (const char* p), (p), p)
 PATH_CALL(int, remove, (const char* p), (p), p)
 
-#define AT_CALL(ret, name, params, args, dirfd, path) \
-    ret name params \
-    { \
-        note(#name, dirfd, path, AT_FDCWD, NULL); \
-        REAL(ret(*) params, name); \
-        return real_##name args; \
+#define AT_CALL(ret, name, params, args, dirfd, path)                                                        \
+    ret name params                                                                                          \
+    {                                                                                                        \
+        note(#name, dirfd, path, AT_FDCWD, NULL);                                                            \
+        REAL(ret(*) params, name);                                                                           \
+        return real_##name args;                                                                             \
     }
 AT_CALL(int, mkdirat, (int d, const char* p, mode_t m), (d, p, m), d, p)
 AT_CALL(int, unlinkat, (int d, const char* p, int f), (d, p, f), d, p)
 
-#define TWO_PATH_CALL(ret, name, params, args, dirfd, path, dirfd2, path2) \
-    ret name params \
-    { \
-        note(#name, dirfd, path, dirfd2, path2); \
-        REAL(ret(*) params, name); \
-        return real_##name args; \
+#define TWO_PATH_CALL(ret, name, params, args, dirfd, path, dirfd2, path2)                                   \
+    ret name params                                                                                          \
+    {                                                                                                        \
+        note(#name, dirfd, path, dirfd2, path2);                                                             \
+        REAL(ret(*) params, name);                                                                           \
+        return real_##name args;                                                                             \
     }
 TWO_PATH_CALL(int, rename, (const char* a, const char* b), (a, b), AT_FDCWD, a, AT_FDCWD, b)
-TWO_PATH_CALL(int, renameat, (int da, const char* a, int db, const char* b), (da, a, db, b), da, a,
-              db, b)
-TWO_PATH_CALL(int, renameat2, (int da, const char* a, int db, const char* b, unsigned f),
-              (da, a, db, b, f), da, a, db, b)
+TWO_PATH_CALL(int, renameat, (int da, const char* a, int db, const char* b), (da, a, db, b), da, a, db, b)
+TWO_PATH_CALL(int, renameat2, (int da, const char* a, int db, const char* b, unsigned f), (da, a, db, b, f),
+              da, a, db, b)
 TWO_PATH_CALL(int, link, (const char* a, const char* b), (a, b), AT_FDCWD, a, AT_FDCWD, b)
-TWO_PATH_CALL(int, linkat, (int da, const char* a, int db, const char* b, int f),
-              (da, a, db, b, f), da, a, db, b)
+TWO_PATH_CALL(int, linkat, (int da, const char* a, int db, const char* b, int f), (da, a, db, b, f), da, a,
+              db, b)
 // A link's target is text, not a path that is touched: only the link counts.
 TWO_PATH_CALL(int, symlink, (const char* t, const char* p), (t, p), AT_FDCWD, p, AT_FDCWD, NULL)
-TWO_PATH_CALL(int, symlinkat, (const char* t, int d, const char* p), (t, d, p), d, p, AT_FDCWD,
-              NULL)
+TWO_PATH_CALL(int, symlinkat, (const char* t, int d, const char* p), (t, d, p), d, p, AT_FDCWD, NULL)
 
 // Signals through a pidfd, as the stop sends them where it can.
 long syscall(long number, ...)
