@@ -26,6 +26,8 @@
 #include <system_error>
 #include <vector>
 
+#include "package_zstd.h"
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -54,7 +56,8 @@ bool SetFormat(archive* a, const std::string& format)
         return archive_write_add_filter_gzip(a) == ARCHIVE_OK &&
                archive_write_set_filter_option(a, "gzip", "timestamp", nullptr) == ARCHIVE_OK;
     if (format == "tar.zst")
-        return archive_write_add_filter_zstd(a) == ARCHIVE_OK;
+        return archive_write_add_filter_zstd(a) == ARCHIVE_OK &&
+               archive_write_set_options(a, DW_PACKAGE_ZSTD_OPTIONS) == ARCHIVE_OK;
     return false;
 }
 

@@ -1,9 +1,12 @@
-// Stand-in for the CoreServices pair: realpath gives the absolute spelling the
-// file system keeps, with links and "." / ".." resolved.
+// Stand-in for the CoreServices pair: the absolute spelling the file system
+// keeps, with links and "." / ".." resolved.
 #include "fsref.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
@@ -25,6 +28,34 @@ OSStatus StatusFromErrno(int err)
         return kIoError;
     }
 }
+
+// The kernel's own spelling of the object that path names: one lookup, where
+// realpath looks up every prefix again (a removal of a deep tree asks for
+// each of its entries). False, errno set, when the object does not exist;
+// false with errno 0 when realpath has to answer (/proc not mounted, no
+// descriptor left, ...).
+bool SpellThroughProc(const char* path, char (&out)[PATH_MAX], struct stat& st)
+{
+    const int fd = open(path, O_PATH | O_CLOEXEC);
+    if (fd < 0) {
+        if (errno != ENOENT && errno != ENOTDIR)
+            errno = 0;
+        return false;
+    }
+    char link[32];
+    snprintf(link, sizeof(link), "/proc/self/fd/%d", fd);
+    const ssize_t n = readlink(link, out, sizeof(out));
+    // An object unlinked meanwhile is spelled with " (deleted)" appended.
+    const bool ok = n > 0 && static_cast<size_t>(n) < sizeof(out) && out[0] == '/' && fstat(fd, &st) == 0 &&
+                    st.st_nlink > 0;
+    close(fd);
+    if (!ok) {
+        errno = 0;
+        return false;
+    }
+    out[n] = '\0';
+    return true;
+}
 }  // namespace
 
 OSStatus FSPathMakeRef(const unsigned char* path, FSRef* ref, bool* isDirectory)
@@ -32,11 +63,21 @@ OSStatus FSPathMakeRef(const unsigned char* path, FSRef* ref, bool* isDirectory)
     if (path == nullptr || ref == nullptr || path[0] == '\0') {
         return kParamError;
     }
-    if (realpath(reinterpret_cast<const char*>(path), ref->path) == nullptr) {
+    const char* text = reinterpret_cast<const char*>(path);
+    struct stat st;
+    if (SpellThroughProc(text, ref->path, st)) {
+        if (isDirectory != nullptr) {
+            *isDirectory = S_ISDIR(st.st_mode);
+        }
+        return 0;
+    }
+    if (errno != 0) {
+        return StatusFromErrno(errno);
+    }
+    if (realpath(text, ref->path) == nullptr) {
         return StatusFromErrno(errno);
     }
     if (isDirectory != nullptr) {
-        struct stat st;
         *isDirectory = stat(ref->path, &st) == 0 && S_ISDIR(st.st_mode);
     }
     return 0;

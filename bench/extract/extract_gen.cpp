@@ -17,13 +17,14 @@
 #include <string>
 #include <vector>
 
+#include "package_zstd.h"
 #include "test_archive.h"
 
 namespace {
 
 using dwtest::Entry;
 
-const char kVersion[] = "extract_gen 1";
+const char kVersion[] = "extract_gen 2";  // 2: tar.zst at the packer's level
 const char* const kPackings[] = {"tar", "tar.gz", "tar.zst", "zip"};
 
 // splitmix64: fast, and the same sequence on every machine.
@@ -174,7 +175,9 @@ private:
                            : packing == "tar.zst" ? ARCHIVE_FILTER_ZSTD
                                                   : ARCHIVE_FILTER_NONE;
         const int format = packing == "zip" ? ARCHIVE_FORMAT_ZIP : ARCHIVE_FORMAT_TAR_PAX_RESTRICTED;
-        const dwtest::Packing fixed = {format, filter, nullptr, 1717200000};
+        // tar.zst as the packer writes the shipped package.
+        const dwtest::Packing fixed = {
+            format, filter, filter == ARCHIVE_FILTER_ZSTD ? DW_PACKAGE_ZSTD_OPTIONS : nullptr, 1717200000};
         writers_.push_back(std::make_unique<dwtest::ArchiveWriter>(path, fixed));
     }
 

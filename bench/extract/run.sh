@@ -2,7 +2,7 @@
 # Extraction benchmark: our Extractor against the bare two libarchive passes
 # and bsdtar, on tmpfs and on the main disk, for tar, tar.gz, tar.zst and zip.
 #
-#     bash bench/extract/run.sh [TMPFS_RUNS [DISK_RUNS]]     (default 9 and 5)
+#     bash bench/extract/run.sh [TMPFS_RUNS [DISK_RUNS]]     (default 9 and 5; 0 disk runs: tmpfs only)
 #
 # Configures and builds what it needs in build-bench, writes the synthetic
 # package once into build-bench/bench/extract/data (about 320 MB), and works

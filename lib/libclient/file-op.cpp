@@ -248,7 +248,10 @@ bool IsFileExist(const ustring& path, bool exact)
     return true;
 }
 
-int GetFileInfo(const ustring& path, _FILE_INFO_tag& info)
+namespace {
+
+// GetFileInfo, with the canonical spelling looked up only when asked for.
+int FileStatus(const ustring& path, _FILE_INFO_tag& info, bool canonical)
 {
     struct stat st;
     if (lstat(path.c_str(), &st) != 0) {
@@ -279,8 +282,16 @@ int GetFileInfo(const ustring& path, _FILE_INFO_tag& info)
     }
     info.type = type;
     // Best effort: without a canonical spelling the path stays as given.
-    FSGetRealPath(info.path);
+    if (canonical)
+        FSGetRealPath(info.path);
     return kFSOk;
+}
+
+}  // namespace
+
+int GetFileInfo(const ustring& path, _FILE_INFO_tag& info)
+{
+    return FileStatus(path, info, true);
 }
 
 int FSGetRealPath(ustring& path)
@@ -510,8 +521,10 @@ int FSRemove(const ustring& path, bool /*flag*/)
     if (path.empty()) {
         return kFSRemoveBadPath;
     }
+    // The canonical spelling costs a lookup of the whole path for every entry
+    // of the tree and is used by nothing here but its own debug lines.
     FILE_INFO info;
-    if (GetFileInfo(path, info) != kFSOk) {
+    if (FileStatus(path, info, Logger::Writes(Logger::LOG_DEBUG, "file_op_debug")) != kFSOk) {
         return kFSRemoveBadPath;
     }
     if (!info.exist) {

@@ -251,6 +251,15 @@ void Logger::LogMsg(Level level, const ustring& component, const char* format, .
     va_end(args);
 }
 
+bool Logger::Writes(Level level, const ustring& component)
+{
+    if (log_type != LOG_TYPE_SYSLOG && load_fp() == nullptr)
+        return false;
+    LogLockGuard guard;
+    auto found = log_level.find(component);
+    return (found != log_level.end() ? found->second : kDefaultThreshold) >= level;
+}
+
 void Logger::LogMsg2(Level level, const ustring& component, const char* format, va_list args)
 {
     // After a failed rotation log_fp stays null: logging has stopped for good.

@@ -41,6 +41,9 @@ public:
         __attribute__((format(printf, 3, 4)));
     static void LogMsg2(Level level, const ustring& component, const char* format, va_list args)
         __attribute__((format(printf, 3, 0)));
+    // Whether a line at level for component would be written now: for callers
+    // whose debug lines need work that nothing else needs.
+    static bool Writes(Level level, const ustring& component);
     // Renames archives k -> k+1, drops archive rotate_cnt-1, moves the live file
     // to archive 0 and reopens it. On failure logging stops for the process.
     // Not locked against other processes by itself: LogMsg2 calls it locked.

@@ -35,6 +35,27 @@ TEST(FsRefTest, GivesCanonicalSpellingOfExistingPathsOnly)
 
     EXPECT_NE(FSPathMakeRef(U(tmp.path() + "/missing"), &ref, nullptr), 0);
     EXPECT_NE(FSPathMakeRef(U(""), &ref, nullptr), 0);
+
+    // A dangling link and a file taken for a folder name nothing; a FIFO is
+    // named without being opened for reading (which would block).
+    ASSERT_EQ(symlink("nowhere", tmp.file("dangling").c_str()), 0);
+    EXPECT_NE(FSPathMakeRef(U(tmp.file("dangling")), &ref, nullptr), 0);
+    dwtest::WriteFile(tmp.file("sub/file"), "x");
+    EXPECT_NE(FSPathMakeRef(U(tmp.file("sub/file/")), &ref, nullptr), 0);
+    ASSERT_EQ(mkfifo(tmp.file("fifo").c_str(), 0600), 0);
+    ASSERT_EQ(FSPathMakeRef(U(tmp.file("fifo")), &ref, &isDir), 0);
+    EXPECT_FALSE(isDir);
+    EXPECT_STREQ(ref.path, tmp.file("fifo").c_str());
+
+    // A relative path is spelled from the working folder, absolutely.
+    char cwd[PATH_MAX];
+    ASSERT_NE(getcwd(cwd, sizeof(cwd)), nullptr);
+    ASSERT_EQ(chdir(tmp.file("sub").c_str()), 0);
+    const OSStatus relative = FSPathMakeRef(U("../link/file"), &ref, &isDir);
+    ASSERT_EQ(chdir(cwd), 0);
+    ASSERT_EQ(relative, 0);
+    EXPECT_FALSE(isDir);
+    EXPECT_STREQ(ref.path, tmp.file("sub/file").c_str());
 }
 
 TEST(FsTypeTest, NamesVolumesTheBsdWay)

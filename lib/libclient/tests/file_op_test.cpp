@@ -1,4 +1,5 @@
 #include "file-op.h"
+#include "log.h"
 #include "test_files.h"
 
 #include <fcntl.h>
@@ -317,6 +318,31 @@ TEST_F(FileOpTest, RemoveTreeNeverFollowsLinks)
     EXPECT_FALSE(Exists(P("tree")));
     EXPECT_EQ(ReadFile(P("outside/file")), "keep");
     EXPECT_TRUE(IsDir(P("outside/folder")));
+}
+
+TEST_F(FileOpTest, RemoveTreeNamesEachEntrysSpellingOnlyInItsDebugLines)
+{
+    // Through a link, so that the canonical spelling differs from the one given.
+    fs::create_symlink(dir, P("via"));
+    const std::string log = P("file-op.log");
+    const std::string levels = P("levels");
+    for (const char* level : {"4", "7"}) {
+        MakeTree(P("tree"));
+        WriteFile(levels, std::string("file_op_debug = ") + level + "\n");
+        ASSERT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, log.c_str(), levels.c_str(), 2), 0);
+        ASSERT_EQ(FSRemove(P("via/tree"), false), kFSOk);
+        Logger::Initialize(Logger::LOG_TYPE_STDERR, "", "", 2);
+        EXPECT_FALSE(Exists(P("tree"))) << "level " << level;
+        const std::string text = ReadFile(log);
+        const bool debug = level[0] == '7';
+        for (const char* entry : {"", "/a.txt", "/sub", "/sub/nested.txt", "/sub/empty"}) {
+            const std::string line = "get full path [" + P("tree") + entry + "]";
+            EXPECT_EQ(text.find(line) != std::string::npos, debug) << line << " at level " << level;
+        }
+        EXPECT_EQ(text.find("org path [" + P("via/tree/a.txt") + "]") != std::string::npos, debug);
+        remove(log.c_str());
+    }
+    Logger::log_level.erase("file_op_debug");
 }
 
 TEST_F(FileOpTest, RemoveReportsFolderThatCannotBeOpened)

@@ -107,10 +107,15 @@ TEST_P(LoggerThresholds, WritesTimeStampAndCallerTextUpToEachComponentsThreshold
     const std::string level_path = row.level_file ? dir.file("launcher.debug") : "";
     ASSERT_TRUE(!row.level_file || WriteFile(level_path, row.level_file));
     ASSERT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, log.c_str(), level_path.c_str(), 50), 0);
+    std::vector<std::string> announced;  // what Writes said would be written
     for (const char* component : {"launcher_debug", "service_debug", "extractor_debug", "unknown"})
-        for (int level = Logger::LOG_ERROR; level <= Logger::LOG_DEBUG; ++level)
+        for (int level = Logger::LOG_ERROR; level <= Logger::LOG_DEBUG; ++level) {
+            if (Logger::Writes(static_cast<Logger::Level>(level), component))
+                announced.push_back(std::to_string(level) + " " + component + "\n");
             Logger::LogMsg(static_cast<Logger::Level>(level), component, "%d %s\n", level, component);
+        }
     EXPECT_EQ(messages_of(log), row.expected);
+    EXPECT_EQ(announced, row.expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(Levels, LoggerThresholds, testing::ValuesIn(kThresholdRows), dwtest::RowName());
