@@ -5,7 +5,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <climits>
 #include <ctime>
+#include <string>
 
 #include "config.h"
 
@@ -73,9 +75,24 @@ int write_stamped(FILE* fp, const char* format, va_list args)
     return count;
 }
 
+// log_path as the file calls use it: made absolute when it is set, so that a
+// thread with a working folder of its own (the extractor's) logs to the same
+// file as the others.
+std::string log_file;
+
+void set_log_file(const ustring& path)
+{
+    log_file = path.c_str_utf8();
+    if (log_file.empty() || log_file[0] == '/')
+        return;
+    char cwd[PATH_MAX];
+    if (getcwd(cwd, sizeof cwd) != nullptr)
+        log_file = std::string(cwd) + "/" + log_file;
+}
+
 void archive_name(char (&buf)[1024], int k)
 {
-    snprintf(buf, sizeof buf, "%s_%d", Logger::log_path.c_str_utf8(), k);
+    snprintf(buf, sizeof buf, "%s_%d", log_file.c_str(), k);
 }
 
 // Other processes (a second launcher) append to the same log and rotate it
@@ -91,10 +108,10 @@ void close_log_dir()
     log_dir_fd = -1;
 }
 
-void open_log_dir(const ustring& path)
+void open_log_dir()
 {
     close_log_dir();
-    const std::string file = path.c_str_utf8();
+    const std::string& file = log_file;
     const size_t slash = file.rfind('/');
     const std::string dir = slash == std::string::npos ? "." : slash == 0 ? "/" : file.substr(0, slash);
     log_dir_fd = open(dir.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -127,11 +144,10 @@ void follow_rotation()
     struct stat live;
     if (log_dir_fd < 0 || Logger::log_fp == nullptr || fstat(fileno(Logger::log_fp), &ours) != 0)
         return;
-    if (stat(Logger::log_path.c_str_utf8(), &live) == 0 && live.st_dev == ours.st_dev &&
-        live.st_ino == ours.st_ino)
+    if (stat(log_file.c_str(), &live) == 0 && live.st_dev == ours.st_dev && live.st_ino == ours.st_ino)
         return;
     // If the live file cannot be opened, the old stream still keeps the lines.
-    FILE* fp = fopen(Logger::log_path.c_str_utf8(), "a");
+    FILE* fp = fopen(log_file.c_str(), "a");
     if (fp == nullptr)
         return;
     fclose(Logger::log_fp);
@@ -232,13 +248,15 @@ int Logger::open_destination(Type type, const ustring& path, int rotate_count)
         store_fp(fp);
         log_size = 0;
         log_path = path;
+        set_log_file(path);
         rotate_cnt = rotate_count;
-        open_log_dir(path);
+        open_log_dir();
         return 0;
     }
     }
     close_log_dir();
     log_path.clear();
+    log_file.clear();
     log_size = -1;
     return 0;
 }
@@ -322,11 +340,11 @@ int Logger::Rotate()
     if (log_fp != nullptr)
         fclose(log_fp);
     archive_name(to, 0);
-    if (rename(log_path.c_str_utf8(), to) != 0) {
+    if (rename(log_file.c_str(), to) != 0) {
         store_fp(nullptr);
         return -1;
     }
-    FILE* fp = fopen(log_path.c_str_utf8(), "a");
+    FILE* fp = fopen(log_file.c_str(), "a");
     store_fp(fp);
     return fp != nullptr ? 0 : -1;
 }
@@ -342,6 +360,7 @@ void Logger::Destroy()
     log_size = -1;
     log_type = LOG_TYPE_STDERR;
     log_path.clear();
+    log_file.clear();
     rotate_cnt = 32;
 }
 

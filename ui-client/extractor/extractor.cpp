@@ -11,11 +11,13 @@
 #include <cstring>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <system_error>
 
 #include "log.h"
 #include "notify_adapter.h"
 #include "strtable.h"
+#include "thread_folder.h"
 
 namespace {
 
@@ -237,10 +239,10 @@ bool names_destination(const char* name)
     return true;
 }
 
-// The folder the entry paths are put below. The disk writer removes every
-// symbolic link it meets on an entry's path (UNLINK with SECURE_SYMLINKS),
-// including links among the destination's own ancestors, so the destination
-// is spelled without links. If it cannot be resolved it is used as given.
+// The destination spelled without links. The disk writer removes every
+// symbolic link it meets on an entry's path (UNLINK with SECURE_SYMLINKS);
+// on an absolute path that includes links among the destination's own
+// ancestors. If it cannot be resolved it is used as given.
 ustring resolved_root(const ustring& dest)
 {
     std::error_code ignored;
@@ -284,6 +286,9 @@ int Extractor::Extract()
         return true;
     };
 
+    // Left only after the writer is freed: freeing it runs the fix-ups it
+    // deferred, on the entry paths as they were given.
+    std::optional<ThreadFolder> inside;
     ReadHandle reader(archive_read_new());
     if (!reader)
         return counted_failure() ? -1 : fail("[ERROR] extractor(%d): Allocate extractor failed\n", __LINE__);
@@ -296,7 +301,13 @@ int Extractor::Extract()
                                  : fail("[ERROR] extractor(%d): Failed to read file '%s' ('%s')\n", __LINE__,
                                         archive_path.c_str(), error_text(reader.get()));
 
-    const ustring prefix = resolved_root(dest_path) + "/";
+    // Entry paths relative to the destination where this thread can have it
+    // as its working folder (both archives are open by now): the writer
+    // checks each component of a path for links, and the destination's own
+    // ancestors then are not among them.
+    const ustring root = resolved_root(dest_path);
+    inside.emplace(root.c_str_utf8());
+    const ustring prefix = inside->entered() ? ustring("./") : root + "/";
     for (int done = 1;; ++done) {
         archive_entry* entry = nullptr;
         const int r = archive_read_next_header(reader.get(), &entry);

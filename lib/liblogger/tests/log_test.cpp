@@ -15,6 +15,7 @@
 #include "log.h"
 #include "named_rows.h"
 #include "test_files.h"
+#include "thread_folder.h"
 
 namespace {
 
@@ -244,6 +245,33 @@ TEST_F(LoggerTest, ThreadsLoseOrTearNoLineAcrossRotations)
         }
     EXPECT_EQ(total, static_cast<size_t>(threads * per_thread));
     EXPECT_EQ(seen.size(), static_cast<size_t>(threads * per_thread));
+}
+
+// The extractor's thread works in the destination as its own working folder;
+// a log named relative to the process's folder must not follow it there.
+TEST_F(LoggerTest, AThreadInAFolderOfItsOwnLogsToTheSameFileThroughRotations)
+{
+    const std::filesystem::path start = std::filesystem::current_path();
+    std::filesystem::current_path(dir.path());
+    const bool initialized = Logger::Initialize(Logger::LOG_TYPE_FILE, "launcher.log", "", 2) == 0;
+    std::filesystem::current_path(start);
+    ASSERT_TRUE(initialized);
+    ASSERT_TRUE(std::filesystem::create_directory(dir.file("elsewhere")));
+
+    const int lines = 12000;  // about 1.2 MB: one rotation
+    const std::string payload(90, 'p');
+    bool entered = false;
+    std::thread inside([&] {
+        ThreadFolder folder(dir.file("elsewhere").c_str());
+        entered = folder.entered();
+        for (int i = 0; i < lines; ++i)
+            Logger::LogMsg(Logger::LOG_WARNING, "c", "[WARNING] t(%d): %s\n", i, payload.c_str());
+    });
+    inside.join();
+    ASSERT_TRUE(entered);
+    EXPECT_TRUE(std::filesystem::is_empty(dir.file("elsewhere")));
+    EXPECT_EQ(messages_of(archive(0)).size() + messages_of(log).size(), static_cast<size_t>(lines));
+    EXPECT_FALSE(std::filesystem::exists(archive(1)));
 }
 
 // Several launchers append to one log, each with a logger of its own: one

@@ -36,6 +36,8 @@ struct Outcome {
     Pairs progress;
     std::vector<int> percent;  // what the dialog shows: current * 100 / total
     Lines log;
+    std::vector<fs::path> cwd;  // the process's working folder, seen at each report
+    fs::path cwd_after;         // the extracting thread's, once Extract returned
 };
 
 // Logger, string table and application object are process-wide: set up once.
@@ -97,13 +99,17 @@ protected:
             [&out](int total, int current) {
                 out.progress.emplace_back(total, current);
                 out.percent.push_back(current * 100 / total);
+                out.cwd.push_back(fs::current_path());
             },
             Qt::QueuedConnection);
 
         Extractor extractor;
         extractor.archive_path = archive.c_str();
         extractor.dest_path = dest_folder.c_str();
-        QThread* worker = QThread::create([&] { out.result = extractor.Extract(); });
+        QThread* worker = QThread::create([&] {
+            out.result = extractor.Extract();
+            out.cwd_after = fs::current_path();
+        });
         QEventLoop loop;
         // Queued behind the worker's reports, so every report is in when the loop ends.
         QObject::connect(worker, &QThread::finished, &loop, &QEventLoop::quit, Qt::QueuedConnection);
@@ -350,17 +356,22 @@ TEST_F(ExtractorTest, ReplacesFilesKeepsFoldersAndWritesNothingOutside)
     dwtest::WriteFile(dest + "/dir/keep", "kept");
     // "lnk" is replaced by a folder rather than followed; the hard link's
     // target "a", left as stored, would be the decoy in the working directory.
-    const Outcome out = run(make({{Entry::Folder, "./", ""},
-                                  {Entry::Folder, "dir", ""},
-                                  {Entry::File, "dir/new", "n"},
-                                  {Entry::File, "f", "new"},
-                                  {Entry::Symlink, "lnk", outside},
-                                  {Entry::File, "lnk/file", "x"},
-                                  {Entry::File, "/abs/y", "y"},
-                                  {Entry::File, "a", "package"},
-                                  {Entry::Hardlink, "sub/h", "a"}}),
+    // The package is named relative to the working directory, which the
+    // extracting thread leaves for the destination and the others never do.
+    const Outcome out = run(fs::relative(make({{Entry::Folder, "./", ""},
+                                               {Entry::Folder, "dir", ""},
+                                               {Entry::File, "dir/new", "n"},
+                                               {Entry::File, "f", "new"},
+                                               {Entry::Symlink, "lnk", outside},
+                                               {Entry::File, "lnk/file", "x"},
+                                               {Entry::File, "/abs/y", "y"},
+                                               {Entry::File, "a", "package"},
+                                               {Entry::Hardlink, "sub/h", "a"}}))
+                                .string(),
                             via);
     EXPECT_EQ(out.result, 0);
+    EXPECT_EQ(out.cwd, std::vector<fs::path>(9, outside));
+    EXPECT_EQ(out.cwd_after, outside);
     EXPECT_TRUE(fs::is_symlink(via));
     EXPECT_EQ(Snapshot(dest), (Tree{{"dir", "<dir>"},
                                     {"dir/keep", "kept"},
