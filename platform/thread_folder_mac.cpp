@@ -1,4 +1,4 @@
-// macOS 10.12 and later: pthread_chdir_np gives the calling thread a working
+// macOS 11 and later: pthread_chdir_np gives the calling thread a working
 // folder of its own; pthread_fchdir_np(-1) returns it to the process's.
 #include "thread_folder.h"
 
