@@ -387,4 +387,14 @@ TEST_F(ExtractorTest, ReplacesFilesKeepsFoldersAndWritesNothingOutside)
     EXPECT_TRUE(fs::equivalent(dest + "/a", dest + "/sub/h"));
 }
 
+TEST_F(ExtractorTest, WritesIntoADestinationThatDoesNotExistYet)
+{
+    // No folder to make the thread's own: the entries go by absolute path.
+    const std::string fresh = tmp_.file("fresh/app");
+    const Outcome out = run(make({{Entry::Folder, "dir", ""}, {Entry::File, "dir/f", "x"}}), fresh);
+    EXPECT_EQ(out.result, 0);
+    EXPECT_EQ(Snapshot(fresh), (Tree{{"dir", "<dir>"}, {"dir/f", "x"}}));
+    EXPECT_EQ(out.cwd_after, outside);
+}
+
 }  // namespace
