@@ -6,6 +6,7 @@
 #include "fuzz_check.h"
 #include "log.h"
 #include "strtable.h"
+#include "test_files.h"
 
 #include <archive.h>
 #include <archive_entry.h>
@@ -20,8 +21,6 @@
 #include <cctype>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <set>
 #include <string>
 #include <system_error>
@@ -56,12 +55,6 @@ void check_names(const std::string& folder, const Names& expected)
         fprintf(stderr, " '%s'", name.c_str());
     fprintf(stderr, "\n");
     CHECK(found == expected);
-}
-
-std::string read_file(const std::string& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
 }
 
 // An archive may leave folders without write or search permission; give them
@@ -159,7 +152,7 @@ extern "C" int LLVMFuzzerInitialize(int*, char***)
     g_dest = g_box + "/dest";
     g_outside = g_box + "/outside";
     CHECK(mkdir(g_box.c_str(), 0755) == 0 && mkdir(g_outside.c_str(), 0755) == 0);
-    std::ofstream(g_outside + "/decoy", std::ios::binary) << kDecoy;
+    dwtest::WriteFile(g_outside + "/decoy", kDecoy);
     atexit(remove_root);
     StrTable::InitStrTable();
     return 0;
@@ -191,7 +184,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     check_names(g_root, {"box", "log"});
     check_names(g_box, {"dest", "outside", "package"});
     check_names(g_outside, {"decoy"});
-    CHECK(read_file(g_outside + "/decoy") == kDecoy);
+    CHECK(dwtest::ReadFile(g_outside + "/decoy") == kDecoy);
     remove_tree(g_dest);
     return 0;
 }
