@@ -2,7 +2,6 @@
 // Contents/MacOS, with HOME pointing into a fresh temporary folder; copies of
 // fake_client play the per-user drift-ui. Results come back as the driver's
 // output, the log file and what is on disk.
-#include <ftw.h>
 #include <grp.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -12,6 +11,7 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <filesystem>
 #include <map>
 #include <sstream>
 #include <string>
@@ -21,7 +21,6 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -42,17 +41,12 @@ using Lines = std::vector<std::string>;
 
 const uid_t kNobody = 65534;
 
-uid_t g_owner = kNobody;
-
-int ChownToOwner(const char* path, const struct stat*, int, struct FTW*)
-{
-    return lchown(path, g_owner, g_owner);
-}
-
 bool ChownTree(const std::string& path, uid_t owner)
 {
-    g_owner = owner;
-    return nftw(path.c_str(), ChownToOwner, 16, FTW_PHYS) == 0;
+    bool ok = lchown(path.c_str(), owner, owner) == 0;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(path))
+        ok = lchown(entry.path().c_str(), owner, owner) == 0 && ok;
+    return ok;
 }
 
 // Runs the driver, as another user when uid is not 0.
@@ -75,18 +69,11 @@ class ServiceTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(tmp_.isValid());
-        root_ = tmp_.path().toStdString();
-        bundle_ = root_ + "/Bundle/Driftwell.app";
-        // Not plain ASCII and with a blank: every path must come through byte for byte.
-        home_ = root_ + "/h\xc3\xb6me \xe2\x82\xac";
-        app_ = home_ + "/.Driftwell/Driftwell.app";
-        pid_file_ = home_ + "/.Driftwell/ui.pid";
-        log_ = root_ + "/service.log";
+        ASSERT_TRUE(tmp_.ok());
         ASSERT_TRUE(WriteFile(bundle_ + "/Contents/MacOS/launcher", ReadFile(DW_SERVICE_DRIVER), 0755));
         ASSERT_TRUE(WriteFile(bundle_ + "/log/launcher.debug",
                               "service_debug=7\nextractor_debug=7\nfile_op_debug=7\n"));
-        ASSERT_TRUE(QDir().mkpath(QString::fromStdString(home_)));
+        ASSERT_TRUE(std::filesystem::create_directories(home_));
         // For the driver and the clients.
         setenv("HOME", home_.c_str(), 1);
         setenv("DW_FAKE_CLIENT_MODE", "term", 1);
@@ -94,10 +81,9 @@ protected:
 
     void TearDown() override
     {
-        for (pid_t pid : started_) {
+        for (pid_t pid : started_)
             if (!ProcessGone(pid))
                 kill(pid, SIGKILL);
-        }
     }
 
     // Runs the driver as the launcher would run, with a fresh log; its output.
@@ -165,12 +151,11 @@ protected:
     // The service's warnings of the last run.
     Lines Warnings() const
     {
-        Lines warnings;
-        for (const std::string& line : ServiceLog()) {
-            if (line.rfind("[WARNING]", 0) == 0)
-                warnings.push_back(line);
-        }
-        return warnings;
+        Lines lines = ServiceLog();
+        lines.erase(std::remove_if(lines.begin(), lines.end(),
+                                   [](const std::string& line) { return line.rfind("[WARNING]", 0) != 0; }),
+                    lines.end());
+        return lines;
     }
 
     pid_t PidInFile() const
@@ -192,8 +177,11 @@ protected:
         return pid;
     }
 
-    QTemporaryDir tmp_;
-    std::string root_, bundle_, home_, app_, pid_file_, log_;
+    dwtest::TempDir tmp_;
+    const std::string root_ = tmp_.path(), bundle_ = root_ + "/Bundle/Driftwell.app";
+    // Not plain ASCII and with a blank: every path must come through byte for byte.
+    const std::string home_ = root_ + "/h\xc3\xb6me \xe2\x82\xac", app_ = home_ + "/.Driftwell/Driftwell.app";
+    const std::string pid_file_ = home_ + "/.Driftwell/ui.pid", log_ = root_ + "/service.log";
     std::vector<pid_t> started_;
 };
 
@@ -202,96 +190,43 @@ protected:
 struct DecideRow : dwtest::Row {
     const char* target;  // bundle's INFO, nullptr: none
     const char* source;  // per-user INFO, nullptr: none
-    bool executable;
-    bool need;
-    int source_number;  // as logged
-    int target_number;
-    Lines log;            // the whole service log, when given
+    bool executable, need;
+    int source_number, target_number;  // as logged
     const char* problem;  // with the bundle's record: without a build of its own it upgrades nothing
+    const char* log;      // the whole service log, a line feed after each line, when given
 };
 
 const DecideRow kDecideRows[] = {
-    {"first_installation",
-     "[Version]\nbuild_version=5\n",
-     nullptr,
-     false,
-     true,
-     0,
-     5,
-     {"[INFO] drift-service(N): target_version = (, , 5, )", "[INFO] drift-service(N): source does not exist",
-      "[DEBUG] mac/mac-service(N): Source version: ('', '')",
-      "[DEBUG] mac/mac-service(N): Target version: ('5', '')",
-      "[DEBUG] mac/mac-service(N): source version = 0, target version = 5"},
-     nullptr},
-    {"numbers_not_texts",
-     "[Version]\nbuild_version=120\n",
-     "[Version]\nbuild_version=1000\n",
-     true,
-     false,
-     1000,
-     120,
-     {},
-     nullptr},
+    {"first_installation", "[Version]\nbuild_version=5\n", nullptr, false, true, 0, 5, nullptr,
+     "[INFO] drift-service(N): target_version = (, , 5, )\n"
+     "[INFO] drift-service(N): source does not exist\n"
+     "[DEBUG] mac/mac-service(N): Source version: ('', '')\n"
+     "[DEBUG] mac/mac-service(N): Target version: ('5', '')\n"
+     "[DEBUG] mac/mac-service(N): source version = 0, target version = 5\n"},
+    {"numbers_not_texts", "[Version]\nbuild_version=120\n", "[Version]\nbuild_version=1000\n", true, false,
+     1000, 120, nullptr, nullptr},
     {"equal_builds_other_fields_differ",
      "[Version]\nmajor_version=9\nbuild_version=7\nicon_overlay_version=3\n",
-     "[Version]\nmajor_version=1\nminor_version=2\nbuild_version=7\nicon_overlay_version=1\n",
-     true,
-     false,
-     7,
-     7,
-     {"[INFO] drift-service(N): target_version = (9, , 7, 3)",
-      "[INFO] drift-service(N): source_version = (1, 2, 7, 1)",
-      "[DEBUG] mac/mac-service(N): Source version: ('7', '1')",
-      "[DEBUG] mac/mac-service(N): Target version: ('7', '3')",
-      "[DEBUG] mac/mac-service(N): source version = 7, target version = 7"},
+     "[Version]\nmajor_version=1\nminor_version=2\nbuild_version=7\nicon_overlay_version=1\n", true, false, 7,
+     7, nullptr,
+     "[INFO] drift-service(N): target_version = (9, , 7, 3)\n"
+     "[INFO] drift-service(N): source_version = (1, 2, 7, 1)\n"
+     "[DEBUG] mac/mac-service(N): Source version: ('7', '1')\n"
+     "[DEBUG] mac/mac-service(N): Target version: ('7', '3')\n"
+     "[DEBUG] mac/mac-service(N): source version = 7, target version = 7\n"},
+    {"negative_source_empty_target", "[Version]\nmajor_version=1\n", "[Version]\nbuild_version=-1\n", true,
+     true, -1, 0, "has no build number", nullptr},
+    {"digits_then_letters", "[Version]\nbuild_version=1234abc\n", "[Version]\nbuild_version=1233\n", true,
+     true, 1233, 1234, "has a build number that is not a number", nullptr},
+    {"leading_letter", "[Version]\nbuild_version=abc\n", "[Version]\nbuild_version=1\n", true, false, 1, 0,
+     "has a build number that is not a number", nullptr},
+    {"executable_missing_older_bundle", "[Version]\nbuild_version=1\n", "[Version]\nbuild_version=1000\n",
+     false, true, 1000, 1, nullptr, nullptr},
+    {"keys_outside_the_group", "build_version=99\n[Other]\nbuild_version=98\n",
+     "[Version]\nbuild_version=10\n", true, false, 10, 0, "has no build number", nullptr},
+    {"no_bundle_record", nullptr, "[Version]\nbuild_version=10\n", true, false, 10, 0, "cannot be read",
      nullptr},
-    {"negative_source_empty_target",
-     "[Version]\nmajor_version=1\n",
-     "[Version]\nbuild_version=-1\n",
-     true,
-     true,
-     -1,
-     0,
-     {},
-     "has no build number"},
-    {"digits_then_letters",
-     "[Version]\nbuild_version=1234abc\n",
-     "[Version]\nbuild_version=1233\n",
-     true,
-     true,
-     1233,
-     1234,
-     {},
-     "has a build number that is not a number"},
-    {"leading_letter",
-     "[Version]\nbuild_version=abc\n",
-     "[Version]\nbuild_version=1\n",
-     true,
-     false,
-     1,
-     0,
-     {},
-     "has a build number that is not a number"},
-    {"executable_missing_older_bundle",
-     "[Version]\nbuild_version=1\n",
-     "[Version]\nbuild_version=1000\n",
-     false,
-     true,
-     1000,
-     1,
-     {},
-     nullptr},
-    {"keys_outside_the_group",
-     "build_version=99\n[Other]\nbuild_version=98\n",
-     "[Version]\nbuild_version=10\n",
-     true,
-     false,
-     10,
-     0,
-     {},
-     "has no build number"},
-    {"no_bundle_record", nullptr, "[Version]\nbuild_version=10\n", true, false, 10, 0, {}, "cannot be read"},
-    {"copy_without_record", "[Version]\nbuild_version=0\n", nullptr, true, true, 0, 0, {}, nullptr},
+    {"copy_without_record", "[Version]\nbuild_version=0\n", nullptr, true, true, 0, 0, nullptr, nullptr},
 };
 
 class ServiceDecides : public ServiceTest, public testing::WithParamInterface<DecideRow> {};
@@ -309,8 +244,11 @@ TEST_P(ServiceDecides, OnBuildNumbersAndTheExecutable)
                                  std::to_string(row.source_number) +
                                  ", target version = " + std::to_string(row.target_number);
     EXPECT_NE(std::find(log.begin(), log.end(), decision), log.end());
-    if (!row.log.empty()) {
-        EXPECT_EQ(log, row.log);
+    std::string joined;
+    for (const std::string& line : log)
+        joined += line + "\n";
+    if (row.log != nullptr) {
+        EXPECT_EQ(joined, row.log);
     }
     EXPECT_EQ(Warnings(), row.problem == nullptr
                               ? Lines{}
@@ -331,14 +269,10 @@ TEST_F(ServiceTest, StopSignalsOnlyAPidFileNamingTheClient)
     if (ended == 0)
         _exit(0);
     waitpid(ended, nullptr, 0);
-    const pid_t other = fork();
-    if (other == 0) {
-        execlp("sleep", "sleep", "60", static_cast<char*>(nullptr));
-        _exit(127);
-    }
-    // Until exec has happened the child still runs our test program.
-    ASSERT_TRUE(WaitFor(
-        [&] { return ReadFile("/proc/" + std::to_string(other) + "/cmdline").rfind("sleep", 0) == 0; }));
+    QProcess sleeper;  // started once it runs sleep, no longer our test program
+    sleeper.start("sleep", {"60"});
+    ASSERT_TRUE(sleeper.waitForStarted());
+    const pid_t other = static_cast<pid_t>(sleeper.processId());
     const std::string c = std::to_string(client), o = std::to_string(other);
     const auto unusable = [&](const std::string& why) {
         return Lines{"[WARNING] mac/mac-service(N): pid file '" + pid_file_ + "' is unusable: " + why,
@@ -377,9 +311,9 @@ TEST_F(ServiceTest, StopSignalsOnlyAPidFileNamingTheClient)
         EXPECT_FALSE(ProcessGone(client));
         EXPECT_FALSE(Exists(home_ + "/sigterm-received"));
     }
-    EXPECT_EQ(waitpid(other, nullptr, WNOHANG), 0) << "sleep was signalled";
-    kill(other, SIGKILL);
-    waitpid(other, nullptr, 0);
+    EXPECT_FALSE(ProcessGone(other)) << "sleep was signalled";
+    sleeper.kill();
+    sleeper.waitForFinished();
 }
 
 TEST_F(ServiceTest, StopAsAnotherUserThanTheClient)
@@ -550,7 +484,7 @@ TEST_F(ServiceTest, FailedFirstInstallationKeepsThePartialCopy)
 
 // ---- launching the client ------------------------------------------------
 
-TEST_F(ServiceTest, LaunchFailsWithoutAUsableExecutable)
+TEST_F(ServiceTest, LaunchNeedsAnExecutableAndStartsTheClientDetachedAndOnlyOnce)
 {
     for (const bool present : {false, true}) {
         SCOPED_TRACE(present ? "not executable" : "missing");
@@ -559,10 +493,6 @@ TEST_F(ServiceTest, LaunchFailsWithoutAUsableExecutable)
         EXPECT_EQ(ServiceLog(), Lines{"[ERROR] mac/mac-service(N): Failed to launch Driftwell UI"});
         EXPECT_FALSE(Exists(pid_file_));
     }
-}
-
-TEST_F(ServiceTest, LaunchStartsTheClientDetachedAndOnlyOnce)
-{
     InstallOldCopy();
     EXPECT_EQ(Run({"launch"}), "no children");
     EXPECT_EQ(ServiceLog(), Lines{});
