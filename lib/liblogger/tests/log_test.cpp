@@ -7,6 +7,7 @@
 #include <chrono>
 #include <filesystem>
 #include <map>
+#include <numeric>
 #include <set>
 #include <string>
 #include <thread>
@@ -78,6 +79,31 @@ protected:
     }
 
     std::string archive(int k) const { return log + "_" + std::to_string(k); }
+
+    // The log and its archives, each line a whole "[WARNING] <tag><writer>(<i>): <payload>"
+    // and each (writer, i) once, count of them in all; file -> writer -> its bytes there.
+    using Shares = std::map<std::string, std::map<int, long>>;
+    void whole_lines(char tag, const std::string& payload, size_t count, Shares& shares) const
+    {
+        std::set<std::pair<int, int>> seen;
+        size_t total = 0;
+        const std::string format = std::string("[WARNING] ") + tag + "%d(%d): %n";
+        for (int k = -1; k < 0 || std::filesystem::exists(archive(k)); ++k) {
+            const std::string f = k < 0 ? log : archive(k);
+            std::map<int, long>& share = shares[f];
+            for (const std::string& message : messages_of(f)) {
+                ++total;
+                int w = -1, i = -1, text_start = 0;
+                ASSERT_EQ(sscanf(message.c_str(), format.c_str(), &w, &i, &text_start), 2)
+                    << f << ": " << message;
+                ASSERT_EQ(message.substr(text_start), payload + "\n") << f << ": " << message;
+                seen.insert({w, i});
+                share[w] += static_cast<long>(kStampLength + message.size());
+            }
+        }
+        EXPECT_EQ(total, count);
+        EXPECT_EQ(seen.size(), count);
+    }
 
     dwtest::TempDir dir;
     const std::string log = dir.file("launcher.log");
@@ -228,23 +254,9 @@ TEST_F(LoggerTest, ThreadsLoseOrTearNoLineAcrossRotations)
     for (std::thread& w : workers)
         w.join();
 
-    std::vector<std::string> files{log};
-    for (int k = 0; std::filesystem::exists(archive(k)); ++k)
-        files.push_back(archive(k));
-    EXPECT_GE(files.size(), 4u);
-    std::set<std::pair<int, int>> seen;
-    size_t total = 0;
-    for (const std::string& f : files)
-        for (const std::string& message : messages_of(f)) {
-            ++total;
-            int t = -1, i = -1, text_start = 0;
-            ASSERT_EQ(sscanf(message.c_str(), "[WARNING] t%d(%d): %n", &t, &i, &text_start), 2)
-                << f << ": " << message;
-            ASSERT_EQ(message.substr(text_start), payload + "\n") << f << ": " << message;
-            seen.insert({t, i});
-        }
-    EXPECT_EQ(total, static_cast<size_t>(threads * per_thread));
-    EXPECT_EQ(seen.size(), static_cast<size_t>(threads * per_thread));
+    Shares shares;
+    whole_lines('t', payload, threads * per_thread, shares);
+    EXPECT_GE(shares.size(), 4u);
 }
 
 // The extractor's thread works in the destination as its own working folder;
@@ -309,39 +321,24 @@ TEST_P(LoggerProcesses, SharingTheLogLoseNoLineAndKeepTheirOwnCounts)
         reports.emplace_back(size, inode);
     }
 
-    std::vector<std::string> files{log};
-    for (int k = 0; std::filesystem::exists(archive(k)); ++k)
-        files.push_back(archive(k));
+    Shares shares;
+    whole_lines('w', std::string(80, 'p'), std::accumulate(row.lines.begin(), row.lines.end(), size_t{0}),
+                shares);
     const auto entries = std::distance(std::filesystem::directory_iterator(folder), {});
-    EXPECT_EQ(static_cast<size_t>(entries), files.size()) << "names beside the log and its archives";
+    EXPECT_EQ(static_cast<size_t>(entries), shares.size()) << "names beside the log and its archives";
     std::map<unsigned long long, std::map<int, long>> bytes;  // inode -> process -> its bytes there
-    std::set<std::pair<int, int>> seen;
-    size_t total = 0;
-    for (const std::string& f : files) {
+    for (const auto& [f, share] : shares) {
         struct stat st;
         ASSERT_EQ(stat(f.c_str(), &st), 0);
-        for (const std::string& message : messages_of(f)) {
-            ++total;
-            int w = -1, i = -1, text_start = 0;
-            ASSERT_EQ(sscanf(message.c_str(), "[WARNING] w%d(%d): %n", &w, &i, &text_start), 2)
-                << f << ": " << message;
-            ASSERT_EQ(message.substr(text_start), std::string(80, 'p') + "\n") << f << ": " << message;
-            seen.insert({w, i});
-            bytes[st.st_ino][w] += static_cast<long>(kStampLength + message.size());
-        }
+        bytes[st.st_ino] = share;
         // An archive was rotated by a process whose own count passed 1 MiB in it.
         long most = 0;
-        for (const auto& share : bytes[st.st_ino])
-            most = std::max(most, share.second);
+        for (const auto& [w, n] : share)
+            most = std::max(most, n);
         if (f != log) {
             EXPECT_GT(most, 1048576) << f;
         }
     }
-    size_t expected = 0;
-    for (int n : row.lines)
-        expected += static_cast<size_t>(n);
-    EXPECT_EQ(total, expected);
-    EXPECT_EQ(seen.size(), expected);
     // Each count is that process's bytes in the file it was writing last.
     for (size_t w = 0; w < reports.size(); ++w)
         EXPECT_EQ(reports[w].first, bytes[reports[w].second][static_cast<int>(w)]) << "process w" << w;
