@@ -173,12 +173,10 @@ TEST(UstringTest, SearchFamilies)
 {
     enum Family { Find, RFind, FirstOf, FirstNotOf, LastOf, LastNotOf };
     const struct {
-        const char* name;
-        const char* text;
+        const char *name, *text;
         Family family;
         const char* needle;
-        size_t pos;
-        size_t expected;
+        size_t pos, expected;
     } rows[] = {
         {"empty needle at pos", "abc", Find, "", 2, 2},
         {"empty needle at end", "abc", Find, "", 3, npos},
@@ -205,21 +203,10 @@ TEST(UstringTest, SearchFamilies)
         const ustring s(r.text);
         // The std::string, char*, ustring and char needles must agree.
         auto check = [&](auto needle) {
-            switch (r.family) {
-            case Find:
-                return s.find(needle, r.pos);
-            case RFind:
-                return s.rfind(needle, r.pos);
-            case FirstOf:
-                return s.find_first_of(needle, r.pos);
-            case FirstNotOf:
-                return s.find_first_not_of(needle, r.pos);
-            case LastOf:
-                return s.find_last_of(needle, r.pos);
-            case LastNotOf:
-                return s.find_last_not_of(needle, r.pos);
-            }
-            return size_t(0);
+            const size_t found[] = {s.find(needle, r.pos),          s.rfind(needle, r.pos),
+                                    s.find_first_of(needle, r.pos), s.find_first_not_of(needle, r.pos),
+                                    s.find_last_of(needle, r.pos),  s.find_last_not_of(needle, r.pos)};
+            return found[r.family];
         };
         EXPECT_EQ(check(r.needle), r.expected);
         EXPECT_EQ(check(std::string(r.needle)), r.expected);
@@ -233,11 +220,7 @@ TEST(UstringTest, SearchFamilies)
 TEST(UstringTest, TrimRemovesSetBytesAtEitherEnd)
 {
     const struct {
-        const char* text;
-        const char* set;
-        const char* both;
-        const char* left;
-        const char* right;
+        const char *text, *set, *both, *left, *right;
     } rows[] = {
         {" \t x y \t", " \t", "x y", "x y \t", " \t x y"},
         {"   ", " ", "", "", ""},
