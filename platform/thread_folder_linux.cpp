@@ -15,10 +15,10 @@ ThreadFolder::ThreadFolder(const char* path)
 
 ThreadFolder::~ThreadFolder()
 {
-    // The process's folder existed when we left it; if it has gone since, the
-    // thread stays where it is, as a process would.
-    if (entered_ && fchdir(previous_) != 0)
-        entered_ = false;
+    // fchdir fails only when the folder we left has gone since; the thread
+    // then stays where it is, as a process would.
+    const bool back = !entered_ || fchdir(previous_) == 0;
+    static_cast<void>(back);
     if (previous_ >= 0)
         close(previous_);
 }
