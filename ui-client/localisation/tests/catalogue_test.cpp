@@ -148,6 +148,36 @@ QMap<QString, QMap<QString, QString>> SameAsEnglish()
     return same;
 }
 
+// The installer pages whose own rows carry accelerators, by key prefix, with
+// the installer's buttons each shows (msi_button_*): every wizard page shows
+// Back, Next and Cancel (Cancel without an accelerator), the last page Finish
+// in place of Next, the licence page Print as well; the files-in-use box is no
+// wizard page and shows Retry, Ignore and Exit.
+struct Page {
+    const char* prefix;
+    const char* rows;
+    const char* buttons;
+};
+const Page kPages[] = {
+    {"msi_eula_dlg_", "accept reject", "back next print"},
+    {"msi_exit_dlg_", "launch", "back finish"},
+    {"msi_filesinuse_dlg_", "closeall closenone", "retry ignore exit"},
+    {"msi_maintenance_dlg_", "change_label remove_label repair_label", "back next"},
+};
+
+// The accelerator's letter, case-folded; "&&" is a literal ampersand.
+QChar Accelerator(const QString& text)
+{
+    for (int i = 0; i + 1 < text.size(); ++i) {
+        if (text[i] != QLatin1Char('&'))
+            continue;
+        if (text[i + 1].isLetter())
+            return text[i + 1].toCaseFolded();
+        ++i;
+    }
+    return {};
+}
+
 class Catalogue : public testing::TestWithParam<Language> {};
 
 TEST_P(Catalogue, TranslatesExactlyTheTableTextsKeepingTheirMarkers)
@@ -216,6 +246,29 @@ TEST_P(Catalogue, TranslatesExactlyTheTableTextsKeepingTheirMarkers)
     for (int d = 1; d <= 7; ++d) {
         const QString name = StrTable::LoadStr(StrTable::LookupStrID(kDayKeys[d - 1]));
         EXPECT_EQ(locale.standaloneDayName(d).toCaseFolded(), name.toCaseFolded());
+    }
+}
+
+TEST_P(Catalogue, GivesEachAcceleratorOfAnInstallerPageToOneControl)
+{
+    QTranslator translator;
+    ASSERT_TRUE(translator.load(":/" + QString(GetParam().code) + ".qm"));
+    ScopedTranslator installed(&translator);
+    for (const Page& page : kPages) {
+        QStringList keys;
+        for (const QString& row : QString(page.rows).split(' '))
+            keys << page.prefix + row;
+        for (const QString& button : QString(page.buttons).split(' '))
+            keys << "msi_button_" + button;
+        QMap<QChar, QString> taken;
+        for (const QString& key : keys) {
+            const QString text = StrTable::LoadStr(StrTable::LookupStrID(key));
+            const QChar letter = Accelerator(text);
+            EXPECT_FALSE(letter.isNull()) << "no accelerator: " << qPrintable(key);
+            EXPECT_FALSE(taken.contains(letter))
+                << page.prefix << ": " << qPrintable(taken.value(letter)) << " and " << qPrintable(text);
+            taken.insert(letter, text);
+        }
     }
 }
 

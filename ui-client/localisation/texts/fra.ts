@@ -465,7 +465,7 @@
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation>&amp;Supprimer</translation>
+        <translation>S&amp;upprimer</translation>
     </message>
     <message>
         <source>Connection unstable</source>

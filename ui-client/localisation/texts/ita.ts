@@ -465,7 +465,7 @@
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation>Ri&amp;muovi</translation>
+        <translation>Rim&amp;uovi</translation>
     </message>
     <message>
         <source>Connection unstable</source>

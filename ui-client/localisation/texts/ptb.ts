@@ -225,7 +225,7 @@
     </message>
     <message>
         <source>&amp;Change</source>
-        <translation>&amp;Alterar</translation>
+        <translation>A&amp;lterar</translation>
     </message>
     <message>
         <source>Authentication failed</source>

@@ -1317,7 +1317,7 @@
     </message>
     <message>
         <source>&amp;Start [ProductName] now</source>
-        <translation>S&amp;tarta [ProductName] nu</translation>
+        <translation>St&amp;arta [ProductName] nu</translation>
     </message>
     <message>
         <source>Security warning</source>
