@@ -953,7 +953,7 @@
     </message>
     <message>
         <source>Do you really want to unlink this computer from the server?</source>
-        <translation>Vuoi davvero scollegare questo computer dal server?</translation>
+        <translation>Scollegare questo computer dal server?</translation>
     </message>
     <message>
         <source>Work from the menu bar</source>
@@ -1033,7 +1033,7 @@
     </message>
     <message>
         <source>Do you really want to cancel the installation of [ProductName]?</source>
-        <translation>Vuoi davvero annullare l'installazione di [ProductName]?</translation>
+        <translation>Annullare l'installazione di [ProductName]?</translation>
     </message>
     <message>
         <source>This computer is already linked to this server.</source>
@@ -1433,7 +1433,7 @@
     </message>
     <message>
         <source>Do you really want to remove this sync task? Files already synced stay on this computer.</source>
-        <translation>Vuoi davvero rimuovere questa attività di sincronizzazione? I file già sincronizzati restano su questo computer.</translation>
+        <translation>Rimuovere questa attività di sincronizzazione? I file già sincronizzati restano su questo computer.</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -1709,7 +1709,7 @@
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation>Da %1 a %2</translation>
+        <translation>Dal %1 al %2</translation>
     </message>
     <message>
         <source>Install update</source>

@@ -1965,7 +1965,7 @@
     </message>
     <message>
         <source>Your files, on every computer you use.</source>
-        <translation>使うすべてのコンピューターに、あなたのファイルを。</translation>
+        <translation>お使いのすべてのコンピューターで、同じファイルを。</translation>
     </message>
     <message>
         <source>The folder on the server is not available.</source>

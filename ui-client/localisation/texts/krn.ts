@@ -885,7 +885,7 @@
     </message>
     <message>
         <source>Need help setting up? Open the online guide.</source>
-        <translation>설정하는 데 도움이 필요하신가요? 온라인 가이드를 여십시오.</translation>
+        <translation>설정하는 데 도움이 필요하십니까? 온라인 가이드를 여십시오.</translation>
     </message>
     <message>
         <source>Close these programs and click Retry, or click Ignore to continue anyway.</source>
@@ -1369,7 +1369,7 @@
     </message>
     <message>
         <source>Changed a file by mistake? Restore an earlier version from the server.</source>
-        <translation>실수로 파일을 변경하셨나요? 서버에서 이전 버전을 복원하십시오.</translation>
+        <translation>실수로 파일을 변경하셨습니까? 서버에서 이전 버전을 복원하십시오.</translation>
     </message>
     <message>
         <source>Downloading...</source>

@@ -405,7 +405,7 @@
     </message>
     <message>
         <source>Your quota on the server is used up.</source>
-        <translation>Twój przydział na serwerze został wyczerpany.</translation>
+        <translation>Przydział na serwerze został wyczerpany.</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -457,7 +457,7 @@
     </message>
     <message>
         <source>Put files into the Driftwell folder and they appear on your server and your other computers.</source>
-        <translation>Umieść pliki w folderze Driftwell, a pojawią się na serwerze i na innych Twoich komputerach.</translation>
+        <translation>Umieść pliki w folderze Driftwell, a pojawią się na serwerze i na pozostałych komputerach.</translation>
     </message>
     <message>
         <source>&amp;Repair</source>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>Your Driftwell folder</source>
-        <translation>Twój folder Driftwell</translation>
+        <translation>Folder Driftwell</translation>
     </message>
     <message>
         <source>Send to %1</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>Your files stay on your own server.</source>
-        <translation>Twoje pliki pozostają na Twoim własnym serwerze.</translation>
+        <translation>Pliki pozostają na własnym serwerze.</translation>
     </message>
     <message>
         <source>The shared folder could not be removed from the list.</source>
@@ -1425,7 +1425,7 @@
     </message>
     <message>
         <source>Driftwell keeps the files on this computer and on your server in sync.</source>
-        <translation>Driftwell synchronizuje pliki na tym komputerze z plikami na Twoim serwerze.</translation>
+        <translation>Driftwell synchronizuje pliki na tym komputerze z plikami na serwerze.</translation>
     </message>
     <message>
         <source>Merge the files in this folder with those on the server?</source>
@@ -1677,7 +1677,7 @@
     </message>
     <message>
         <source>Your Driftwell folder is now in sync with the server.</source>
-        <translation>Twój folder Driftwell jest teraz zsynchronizowany z serwerem.</translation>
+        <translation>Folder Driftwell jest teraz zsynchronizowany z serwerem.</translation>
     </message>
     <message>
         <source>Folder name</source>
@@ -1717,7 +1717,7 @@
     </message>
     <message>
         <source>[ProductName] will keep the folders you choose in sync with your server.</source>
-        <translation>Program [ProductName] będzie synchronizować wybrane foldery z Twoim serwerem.</translation>
+        <translation>Program [ProductName] będzie synchronizować wybrane foldery z serwerem.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Your storage quota on the server is used up. Free up space or ask for a larger quota.</source>
-        <translation>Twój przydział miejsca na serwerze został wyczerpany. Zwolnij miejsce lub poproś o większy przydział.</translation>
+        <translation>Przydział miejsca na serwerze został wyczerpany. Zwolnij miejsce lub poproś o większy przydział.</translation>
     </message>
     <message>
         <source>&amp;Close the programs automatically and restart them afterwards</source>
@@ -1825,7 +1825,7 @@
     </message>
     <message>
         <source>Your storage quota on the server is used up.</source>
-        <translation>Twój przydział miejsca na serwerze został wyczerpany.</translation>
+        <translation>Przydział miejsca na serwerze został wyczerpany.</translation>
     </message>
     <message>
         <source>%1 hours ago</source>
@@ -1965,7 +1965,7 @@
     </message>
     <message>
         <source>Your files, on every computer you use.</source>
-        <translation>Twoje pliki na każdym używanym komputerze.</translation>
+        <translation>Wszystkie pliki na każdym komputerze, z którego korzystasz.</translation>
     </message>
     <message>
         <source>The folder on the server is not available.</source>

@@ -1521,7 +1521,7 @@
     </message>
     <message>
         <source>Just now</source>
-        <translation>Just nu</translation>
+        <translation>Nyss</translation>
     </message>
     <message>
         <source>Locked by another program</source>
@@ -1665,7 +1665,7 @@
     </message>
     <message>
         <source>Link another server</source>
-        <translation>Koppla till en annan server</translation>
+        <translation>Koppla ytterligare en server</translation>
     </message>
     <message>
         <source>Applying the settings...</source>
