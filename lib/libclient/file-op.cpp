@@ -320,16 +320,21 @@ int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact)
 
 int FSCopy(const ustring& src, const ustring& dst, bool removeSrc)
 {
+    // errno is taken right after each failing call: the logger's own calls
+    // (a rotation) would overwrite it before it is mapped.
+    int err = 0;
     int in = open(src.c_str(), O_RDONLY);
     if (in < 0) {
+        err = errno;
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", __LINE__, src.c_str(),
-                    strerror(errno), errno);
+                    strerror(err), err);
         return kFSCopyFailed;
     }
     int out = open(dst.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
     if (out < 0) {
+        err = errno;
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", __LINE__, dst.c_str(),
-                    strerror(errno), errno);
+                    strerror(err), err);
         close(in);
         return kFSCopyFailed;
     }
@@ -337,15 +342,17 @@ int FSCopy(const ustring& src, const ustring& dst, bool removeSrc)
     int result = kFSOk;
     char* buffer = static_cast<char*>(malloc(kCopyBufferSize));
     if (buffer == nullptr) {
+        err = errno;
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSCopy: malloc(%d): %s (%d)\n", __LINE__,
-                    (int)kCopyBufferSize, strerror(errno), errno);
+                    (int)kCopyBufferSize, strerror(err), err);
         result = kFSCopyFailed;
     }
     while (buffer != nullptr) {
         ssize_t got = read(in, buffer, kCopyBufferSize);
         if (got < 0) {
-            FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: read: %s (%d)\n", __LINE__,
-                        strerror(errno), errno);
+            err = errno;
+            FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: read: %s (%d)\n", __LINE__, strerror(err),
+                        err);
             result = kFSCopyFailed;
             break;
         }
@@ -358,9 +365,10 @@ int FSCopy(const ustring& src, const ustring& dst, bool removeSrc)
             errno = 0;
             ssize_t put = write(out, buffer + done, static_cast<size_t>(got - done));
             if (put <= 0) {
+                err = errno;
                 FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: write: %s (%d)\n", __LINE__,
-                            strerror(errno), errno);
-                result = ResultFromErrno(Failed::kCopy, errno);
+                            strerror(err), err);
+                result = ResultFromErrno(Failed::kCopy, err);
                 break;
             }
             done += put;
@@ -375,19 +383,22 @@ int FSCopy(const ustring& src, const ustring& dst, bool removeSrc)
     // flush or the close that the data cannot be stored (a volume on a full
     // backing store, a network share). The source goes once both succeeded.
     if (result == kFSOk && fsync(out) != 0) {
+        err = errno;
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: fsync(%s): %s (%d)\n", __LINE__, dst.c_str(),
-                    strerror(errno), errno);
-        result = ResultFromErrno(Failed::kCopy, errno);
+                    strerror(err), err);
+        result = ResultFromErrno(Failed::kCopy, err);
     }
     if (close(out) != 0 && result == kFSOk) {
+        err = errno;
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: close(%s): %s (%d)\n", __LINE__, dst.c_str(),
-                    strerror(errno), errno);
-        result = ResultFromErrno(Failed::kCopy, errno);
+                    strerror(err), err);
+        result = ResultFromErrno(Failed::kCopy, err);
     }
     free(buffer);
     if (result == kFSOk && removeSrc && remove(src.c_str()) != 0) {
+        err = errno;
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: remove(%s): %s (%d)\n", __LINE__, src.c_str(),
-                    strerror(errno), errno);
+                    strerror(err), err);
         result = kFSCopyFailed;
     }
     return result;

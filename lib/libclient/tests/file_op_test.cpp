@@ -134,6 +134,17 @@ TEST_F(FileOpTest, CopyHandlesLargeAndEmptyFilesAndReportsAFullDevice)
     }
     EXPECT_EQ(FSCopy(P("big"), "/dev/full", true), kFSCopyNoSpace);
     EXPECT_TRUE(Exists(P("big")));  // the source stays on failure
+
+    // Also when the error line is the one that rotates the log (at 1 MiB):
+    // the rotation's own calls must not decide the result.
+    const std::string log = P("log");
+    ASSERT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, log.c_str(), "", 2), 0);
+    while (fs::file_size(log) < (1 << 20) - 50)
+        Logger::LogMsg(Logger::LOG_ERROR, "file_op_debug", "%s\n", "twenty bytes of text");
+    const int result = FSCopy(P("big"), "/dev/full", false);
+    Logger::Initialize(Logger::LOG_TYPE_STDERR, "", "", 2);
+    EXPECT_EQ(result, kFSCopyNoSpace);
+    EXPECT_TRUE(Exists(log + "_0")) << "the error line did not rotate the log";
 }
 
 // Every write succeeds into the cache of an ext4 volume whose backing file
