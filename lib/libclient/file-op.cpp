@@ -30,18 +30,6 @@ const uint32_t kNoId = UINT32_MAX;
 uint32_t uid = kNoId;
 uint32_t gid = kNoId;
 
-// The canonical spelling of an existing path, or a CoreServices-style status.
-OSStatus CanonicalPath(const char* path, char (&buffer)[kPathBufferSize])
-{
-    FSRef ref;
-    OSStatus status = FSPathMakeRef(reinterpret_cast<const unsigned char*>(path), &ref, nullptr);
-    if (status != 0) {
-        return status;
-    }
-    memset(buffer, 0, sizeof(buffer));
-    return FSRefMakePath(&ref, reinterpret_cast<unsigned char*>(buffer), sizeof(buffer));
-}
-
 // The calls whose errno decides between results.
 enum class Failed { kStatus, kCopy, kRename };
 
@@ -232,9 +220,9 @@ bool IsFileExist(const ustring& path, bool exact)
 
     FILE_OP_LOG(LOG_DEBUG, "[DEBUG] file-op(%d): Input file path = [%s].\n", __LINE__, n.c_str());
     char buffer[kPathBufferSize];
-    OSStatus status = CanonicalPath(n.c_str(), buffer);
+    const int status = CanonicalPath(n.c_str(), buffer, sizeof(buffer));
     if (status != 0) {
-        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSPathMakeRef: %d\n", __LINE__, (int)status);
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSPathMakeRef: %d\n", __LINE__, status);
         return false;
     }
     // The spelling found on disk is compared as it is kept there.
@@ -298,7 +286,7 @@ int FSGetRealPath(ustring& path)
 {
     FILE_OP_LOG(LOG_DEBUG, "[DEBUG] file-op(%d):  org path [%s]\n", __LINE__, path.c_str());
     char buffer[kPathBufferSize];
-    if (CanonicalPath(path.c_str(), buffer) != 0) {
+    if (CanonicalPath(path.c_str(), buffer, sizeof(buffer)) != 0) {
         return kFSFailed;
     }
     path = buffer;

@@ -90,6 +90,32 @@ TEST_F(FileOpTest, IsFileExistMatchesExactSpellingOnly)
     ASSERT_EQ(chdir("/"), 0);
 }
 
+TEST_F(FileOpTest, RealPathSpellsExistingObjectsAbsolutelyAndLeavesOtherPathsAlone)
+{
+    fs::create_directories(P("sub"));
+    fs::create_symlink("sub", P("link"));
+    WriteFile(P("sub/file"), "x");
+    ASSERT_EQ(mkfifo(P("fifo").c_str(), 0600), 0);
+    ASSERT_EQ(chdir(P("sub").c_str()), 0);
+    const struct {
+        const char* name;
+        std::string path, real;  // real empty: fails, the path unchanged
+    } rows[] = {
+        {"dots and a link", dir + "/./link/../link", P("sub")},
+        {"relative", "../link/file", P("sub/file")},
+        {"fifo, never opened for reading", P("fifo"), P("fifo")},
+        {"missing", P("missing"), ""},
+        {"empty", "", ""},
+        {"file taken for a folder", P("sub/file/"), ""},
+    };
+    for (const auto& r : rows) {
+        ustring path = r.path.c_str();
+        EXPECT_EQ(FSGetRealPath(path), r.real.empty() ? kFSFailed : kFSOk) << r.name;
+        EXPECT_EQ(path, ustring((r.real.empty() ? r.path : r.real).c_str())) << r.name;
+    }
+    ASSERT_EQ(chdir("/"), 0);
+}
+
 TEST_F(FileOpTest, GetFileInfoDescribesMissingPathsAndLinksThemselves)
 {
     FILE_INFO info;
