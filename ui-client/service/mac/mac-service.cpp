@@ -6,9 +6,6 @@
 #include <cstdlib>
 #include <cstring>
 
-#include <QDir>
-#include <QString>
-
 #include "app_launch.h"
 #include "config.h"
 #include "file-op.h"
@@ -212,10 +209,10 @@ void MacService::StopService()
 
 int MacService::LaunchPerUserBin()
 {
-    const QString bundle = QDir::homePath() + "/.Driftwell/Driftwell.app";
     // Where the desktop does not track running applications itself, the pid
     // file tells whether the client runs already.
-    return OpenApplicationBundle(bundle, kClientExecutable, ReadPidFile(PidFilePath())) ? 0 : -1;
+    const ustring bundle = Service::GetUserDriftwellAppInstallPath();
+    return OpenApplicationBundle(bundle.c_str(), kClientExecutable, ReadPidFile(PidFilePath())) ? 0 : -1;
 }
 
 void MacService::PostUpgrade()
