@@ -1,5 +1,6 @@
 // Asks the desktop to open an application bundle: start it, or bring an
-// already running instance to the front. True on success.
+// already running instance to the front. True on success. Paths are the
+// file system's bytes, as given.
 // macOS: the launching service through QDesktopServices::openUrl.
 // Elsewhere: the bundle's Contents/MacOS/<exe_name> is started detached, in its
 // own session, standard streams on /dev/null, working folder "/"; it is not
@@ -11,8 +12,6 @@
 
 #include <sys/types.h>
 
-#include <QString>
-
-bool OpenApplicationBundle(const QString& bundle_path, const QString& exe_name, pid_t known_pid);
+bool OpenApplicationBundle(const char* bundle_path, const char* exe_name, pid_t known_pid);
 
 #endif

@@ -13,9 +13,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
-
-#include <QByteArray>
-#include <QFile>
+#include <string>
 
 #include "process_identity.h"
 
@@ -72,11 +70,11 @@ int AboveStdio(int fd)
 }
 
 // true when the executable was exec'd in a grandchild that is no longer ours.
-bool SpawnDetached(const QByteArray& exe)
+bool SpawnDetached(const std::string& exe)
 {
     SpawnPlan plan;
-    plan.exe = exe.constData();
-    plan.argv[0] = const_cast<char*>(exe.constData());
+    plan.exe = exe.c_str();
+    plan.argv[0] = const_cast<char*>(exe.c_str());
     plan.argv[1] = nullptr;
     plan.envp = environ;
     sigemptyset(&plan.no_signals);
@@ -139,14 +137,14 @@ bool SpawnDetached(const QByteArray& exe)
 
 }  // namespace
 
-bool OpenApplicationBundle(const QString& bundle_path, const QString& exe_name, pid_t known_pid)
+bool OpenApplicationBundle(const char* bundle_path, const char* exe_name, pid_t known_pid)
 {
-    const QByteArray exe = QFile::encodeName(bundle_path + "/Contents/MacOS/" + exe_name);
+    const std::string exe = std::string(bundle_path) + "/Contents/MacOS/" + exe_name;
     // Already running: the desktop would only bring it to the front.
-    if (known_pid > 0 && ProcessRunsExecutable(known_pid, exe.constData()))
+    if (known_pid > 0 && ProcessRunsExecutable(known_pid, exe.c_str()))
         return true;
     struct stat st;
-    if (stat(exe.constData(), &st) != 0 || !S_ISREG(st.st_mode) || access(exe.constData(), X_OK) != 0)
+    if (stat(exe.c_str(), &st) != 0 || !S_ISREG(st.st_mode) || access(exe.c_str(), X_OK) != 0)
         return false;
     return SpawnDetached(exe);
 }

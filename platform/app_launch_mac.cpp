@@ -3,9 +3,11 @@
 #include "app_launch.h"
 
 #include <QDesktopServices>
+#include <QFile>
 #include <QUrl>
 
-bool OpenApplicationBundle(const QString& bundle_path, const QString&, pid_t)
+bool OpenApplicationBundle(const char* bundle_path, const char*, pid_t)
 {
-    return QDesktopServices::openUrl(QUrl::fromLocalFile(bundle_path));
+    // decodeName: the bytes as the file system keeps them, whatever they are.
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(QFile::decodeName(bundle_path)));
 }

@@ -1,22 +1,21 @@
-// Canonical-path pair of the file layer: FSPathMakeRef gives a reference to the
-// existing object named by a path (nonzero status if there is none),
-// FSRefMakePath gives back its absolute path as the file system spells it, as
-// UTF-8 of at most maxPathSize - 1 bytes (nonzero status if it does not fit).
-// On macOS these are the CoreServices calls; elsewhere realpath stands in.
+// The canonical spelling of an existing path: absolute, as the file system
+// keeps it, links and "." / ".." resolved. On macOS the CoreServices pair
+// FSPathMakeRef / FSRefMakePath gives it, elsewhere the kernel's own name
+// for the object.
 #ifndef DW_PLATFORM_FSREF_H
 #define DW_PLATFORM_FSREF_H
 
-#if defined(__APPLE__)
-#include <CoreServices/CoreServices.h>
-#else
-#include <climits>
+#include <cstddef>
 
-typedef int OSStatus;
-struct FSRef {
-    char path[PATH_MAX];
-};
-OSStatus FSPathMakeRef(const unsigned char* path, FSRef* ref, bool* isDirectory);
-OSStatus FSRefMakePath(const FSRef* ref, unsigned char* path, unsigned int maxPathSize);
-#endif
+// The CoreServices status codes on every system, so that log lines read the same.
+constexpr int kPathIoError = -36;     // ioErr
+constexpr int kPathNotFound = -43;    // fnfErr: nothing of that name
+constexpr int kPathParamError = -50;  // paramErr: empty path, or out too small
+
+// 0 and out holds the spelling, NUL-terminated (at most out_size - 1 bytes);
+// otherwise a nonzero status and out's contents are undefined. A dangling link,
+// or a file named with a trailing "/", is not found. A FIFO is named without
+// being opened for reading.
+int CanonicalPath(const char* path, char* out, size_t out_size);
 
 #endif

@@ -1,40 +1,36 @@
-// Stand-in for the CoreServices pair: the absolute spelling the file system
-// keeps, with links and "." / ".." resolved.
+// The kernel's own name for the object a path names, through /proc; realpath
+// where that is not available.
 #include "fsref.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <cerrno>
+#include <climits>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
 namespace {
-// The CoreServices codes, so that log lines read the same on both systems.
-const OSStatus kFileNotFound = -43;  // fnfErr
-const OSStatus kIoError = -36;       // ioErr
-const OSStatus kParamError = -50;    // paramErr
 
-// The one place where realpath's errno becomes a status. A missing component
-// and a file where a folder should be both mean there is no such object.
-OSStatus StatusFromErrno(int err)
+// The one place where errno becomes a status. A missing component and a file
+// where a folder should be both mean there is no such object.
+int StatusFromErrno(int err)
 {
     switch (err) {
     case ENOENT:
     case ENOTDIR:
-        return kFileNotFound;
+        return kPathNotFound;
     default:
-        return kIoError;
+        return kPathIoError;
     }
 }
 
-// The kernel's own spelling of the object that path names: one lookup, where
-// realpath looks up every prefix again (a removal of a deep tree asks for
-// each of its entries). False, errno set, when the object does not exist;
-// false with errno 0 when realpath has to answer (/proc not mounted, no
-// descriptor left, ...).
-bool SpellThroughProc(const char* path, char (&out)[PATH_MAX], struct stat& st)
+// One lookup, where realpath looks up every prefix again (a removal of a deep
+// tree asks for each of its entries). False, errno set, when the object does
+// not exist; false with errno 0 when realpath has to answer (/proc not
+// mounted, no descriptor left, ...).
+bool SpellThroughProc(const char* path, char (&out)[PATH_MAX])
 {
     const int fd = open(path, O_PATH | O_CLOEXEC);
     if (fd < 0) {
@@ -46,6 +42,7 @@ bool SpellThroughProc(const char* path, char (&out)[PATH_MAX], struct stat& st)
     snprintf(link, sizeof(link), "/proc/self/fd/%d", fd);
     const ssize_t n = readlink(link, out, sizeof(out));
     // An object unlinked meanwhile is spelled with " (deleted)" appended.
+    struct stat st;
     const bool ok = n > 0 && static_cast<size_t>(n) < sizeof(out) && out[0] == '/' && fstat(fd, &st) == 0 &&
                     st.st_nlink > 0;
     close(fd);
@@ -56,43 +53,27 @@ bool SpellThroughProc(const char* path, char (&out)[PATH_MAX], struct stat& st)
     out[n] = '\0';
     return true;
 }
+
 }  // namespace
 
-OSStatus FSPathMakeRef(const unsigned char* path, FSRef* ref, bool* isDirectory)
+int CanonicalPath(const char* path, char* out, size_t out_size)
 {
-    if (path == nullptr || ref == nullptr || path[0] == '\0') {
-        return kParamError;
+    if (path == nullptr || path[0] == '\0' || out == nullptr) {
+        return kPathParamError;
     }
-    const char* text = reinterpret_cast<const char*>(path);
-    struct stat st;
-    if (SpellThroughProc(text, ref->path, st)) {
-        if (isDirectory != nullptr) {
-            *isDirectory = S_ISDIR(st.st_mode);
+    char spelled[PATH_MAX];
+    if (!SpellThroughProc(path, spelled)) {
+        if (errno != 0) {
+            return StatusFromErrno(errno);
         }
-        return 0;
+        if (realpath(path, spelled) == nullptr) {
+            return StatusFromErrno(errno);
+        }
     }
-    if (errno != 0) {
-        return StatusFromErrno(errno);
+    const size_t len = strlen(spelled);
+    if (len >= out_size) {
+        return kPathParamError;
     }
-    if (realpath(text, ref->path) == nullptr) {
-        return StatusFromErrno(errno);
-    }
-    if (isDirectory != nullptr) {
-        *isDirectory = stat(ref->path, &st) == 0 && S_ISDIR(st.st_mode);
-    }
-    return 0;
-}
-
-OSStatus FSRefMakePath(const FSRef* ref, unsigned char* path, unsigned int maxPathSize)
-{
-    if (ref == nullptr || path == nullptr) {
-        return kParamError;
-    }
-    size_t len = strnlen(ref->path, sizeof(ref->path));
-    if (len >= maxPathSize) {
-        return kParamError;
-    }
-    memcpy(path, ref->path, len);
-    path[len] = '\0';
+    memcpy(out, spelled, len + 1);
     return 0;
 }

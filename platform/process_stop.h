@@ -36,9 +36,17 @@ public:
 
 private:
     void Release();
+    // Per system: a handle that pins pid, or -1 (errno ESRCH when pid has
+    // ended, anything else when the system refuses).
+    static int Pin(pid_t pid);
+    // Per system, through the pin: what Signal and WaitForExit do.
+    int SignalPinned(int sig);
+    bool WaitPinned(int timeout_ms);
 
     pid_t pid_ = 0;
     int fd_ = -1;
+    // Once seen, the end is kept: the kqueue reports it only once, and a
+    // number that ended is never signalled again.
     bool ended_ = false;
     std::string exe_;
 };

@@ -3,6 +3,12 @@
 // entry's path for links, and an absolute path has several more of them than
 // the package's own (a quarter of the extraction on a per-user copy below a
 // home folder). The rest of the process keeps its working folder.
+//
+// Linux: unshare(CLONE_FS) gives the thread its own working folder and umask
+// for the rest of its life; the destructor moves it back, but the copy stays
+// unshared. Threads it creates afterwards inherit that copy (its folder and
+// umask), not the process's: a thread that must see the process's own (the
+// extractor's counting thread) has to be created before the object.
 #ifndef DW_PLATFORM_THREAD_FOLDER_H
 #define DW_PLATFORM_THREAD_FOLDER_H
 

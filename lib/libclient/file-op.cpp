@@ -30,18 +30,6 @@ const uint32_t kNoId = UINT32_MAX;
 uint32_t uid = kNoId;
 uint32_t gid = kNoId;
 
-// The canonical spelling of an existing path, or a CoreServices-style status.
-OSStatus CanonicalPath(const char* path, char (&buffer)[kPathBufferSize])
-{
-    FSRef ref;
-    OSStatus status = FSPathMakeRef(reinterpret_cast<const unsigned char*>(path), &ref, nullptr);
-    if (status != 0) {
-        return status;
-    }
-    memset(buffer, 0, sizeof(buffer));
-    return FSRefMakePath(&ref, reinterpret_cast<unsigned char*>(buffer), sizeof(buffer));
-}
-
 // The calls whose errno decides between results.
 enum class Failed { kStatus, kCopy, kRename };
 
@@ -232,9 +220,9 @@ bool IsFileExist(const ustring& path, bool exact)
 
     FILE_OP_LOG(LOG_DEBUG, "[DEBUG] file-op(%d): Input file path = [%s].\n", __LINE__, n.c_str());
     char buffer[kPathBufferSize];
-    OSStatus status = CanonicalPath(n.c_str(), buffer);
+    const int status = CanonicalPath(n.c_str(), buffer, sizeof(buffer));
     if (status != 0) {
-        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSPathMakeRef: %d\n", __LINE__, (int)status);
+        FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSPathMakeRef: %d\n", __LINE__, status);
         return false;
     }
     // The spelling found on disk is compared as it is kept there.
@@ -298,7 +286,7 @@ int FSGetRealPath(ustring& path)
 {
     FILE_OP_LOG(LOG_DEBUG, "[DEBUG] file-op(%d):  org path [%s]\n", __LINE__, path.c_str());
     char buffer[kPathBufferSize];
-    if (CanonicalPath(path.c_str(), buffer) != 0) {
+    if (CanonicalPath(path.c_str(), buffer, sizeof(buffer)) != 0) {
         return kFSFailed;
     }
     path = buffer;
@@ -320,16 +308,21 @@ int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact)
 
 int FSCopy(const ustring& src, const ustring& dst, bool removeSrc)
 {
+    // errno is taken right after each failing call: the logger's own calls
+    // (a rotation) would overwrite it before it is mapped.
+    int err = 0;
     int in = open(src.c_str(), O_RDONLY);
     if (in < 0) {
+        err = errno;
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", __LINE__, src.c_str(),
-                    strerror(errno), errno);
+                    strerror(err), err);
         return kFSCopyFailed;
     }
     int out = open(dst.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
     if (out < 0) {
+        err = errno;
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", __LINE__, dst.c_str(),
-                    strerror(errno), errno);
+                    strerror(err), err);
         close(in);
         return kFSCopyFailed;
     }
@@ -337,15 +330,17 @@ int FSCopy(const ustring& src, const ustring& dst, bool removeSrc)
     int result = kFSOk;
     char* buffer = static_cast<char*>(malloc(kCopyBufferSize));
     if (buffer == nullptr) {
+        err = errno;
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): FSCopy: malloc(%d): %s (%d)\n", __LINE__,
-                    (int)kCopyBufferSize, strerror(errno), errno);
+                    (int)kCopyBufferSize, strerror(err), err);
         result = kFSCopyFailed;
     }
     while (buffer != nullptr) {
         ssize_t got = read(in, buffer, kCopyBufferSize);
         if (got < 0) {
-            FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: read: %s (%d)\n", __LINE__,
-                        strerror(errno), errno);
+            err = errno;
+            FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: read: %s (%d)\n", __LINE__, strerror(err),
+                        err);
             result = kFSCopyFailed;
             break;
         }
@@ -358,9 +353,10 @@ int FSCopy(const ustring& src, const ustring& dst, bool removeSrc)
             errno = 0;
             ssize_t put = write(out, buffer + done, static_cast<size_t>(got - done));
             if (put <= 0) {
+                err = errno;
                 FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: write: %s (%d)\n", __LINE__,
-                            strerror(errno), errno);
-                result = ResultFromErrno(Failed::kCopy, errno);
+                            strerror(err), err);
+                result = ResultFromErrno(Failed::kCopy, err);
                 break;
             }
             done += put;
@@ -375,19 +371,22 @@ int FSCopy(const ustring& src, const ustring& dst, bool removeSrc)
     // flush or the close that the data cannot be stored (a volume on a full
     // backing store, a network share). The source goes once both succeeded.
     if (result == kFSOk && fsync(out) != 0) {
+        err = errno;
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: fsync(%s): %s (%d)\n", __LINE__, dst.c_str(),
-                    strerror(errno), errno);
-        result = ResultFromErrno(Failed::kCopy, errno);
+                    strerror(err), err);
+        result = ResultFromErrno(Failed::kCopy, err);
     }
     if (close(out) != 0 && result == kFSOk) {
+        err = errno;
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: close(%s): %s (%d)\n", __LINE__, dst.c_str(),
-                    strerror(errno), errno);
-        result = ResultFromErrno(Failed::kCopy, errno);
+                    strerror(err), err);
+        result = ResultFromErrno(Failed::kCopy, err);
     }
     free(buffer);
     if (result == kFSOk && removeSrc && remove(src.c_str()) != 0) {
+        err = errno;
         FILE_OP_LOG(LOG_ERROR, "[ERROR] file-op(%d): CopyFile: remove(%s): %s (%d)\n", __LINE__, src.c_str(),
-                    strerror(errno), errno);
+                    strerror(err), err);
         result = kFSCopyFailed;
     }
     return result;

@@ -90,6 +90,32 @@ TEST_F(FileOpTest, IsFileExistMatchesExactSpellingOnly)
     ASSERT_EQ(chdir("/"), 0);
 }
 
+TEST_F(FileOpTest, RealPathSpellsExistingObjectsAbsolutelyAndLeavesOtherPathsAlone)
+{
+    fs::create_directories(P("sub"));
+    fs::create_symlink("sub", P("link"));
+    WriteFile(P("sub/file"), "x");
+    ASSERT_EQ(mkfifo(P("fifo").c_str(), 0600), 0);
+    ASSERT_EQ(chdir(P("sub").c_str()), 0);
+    const struct {
+        const char* name;
+        std::string path, real;  // real empty: fails, the path unchanged
+    } rows[] = {
+        {"dots and a link", dir + "/./link/../link", P("sub")},
+        {"relative", "../link/file", P("sub/file")},
+        {"fifo, never opened for reading", P("fifo"), P("fifo")},
+        {"missing", P("missing"), ""},
+        {"empty", "", ""},
+        {"file taken for a folder", P("sub/file/"), ""},
+    };
+    for (const auto& r : rows) {
+        ustring path = r.path.c_str();
+        EXPECT_EQ(FSGetRealPath(path), r.real.empty() ? kFSFailed : kFSOk) << r.name;
+        EXPECT_EQ(path, ustring((r.real.empty() ? r.path : r.real).c_str())) << r.name;
+    }
+    ASSERT_EQ(chdir("/"), 0);
+}
+
 TEST_F(FileOpTest, GetFileInfoDescribesMissingPathsAndLinksThemselves)
 {
     FILE_INFO info;
@@ -134,6 +160,17 @@ TEST_F(FileOpTest, CopyHandlesLargeAndEmptyFilesAndReportsAFullDevice)
     }
     EXPECT_EQ(FSCopy(P("big"), "/dev/full", true), kFSCopyNoSpace);
     EXPECT_TRUE(Exists(P("big")));  // the source stays on failure
+
+    // Also when the error line is the one that rotates the log (at 1 MiB):
+    // the rotation's own calls must not decide the result.
+    const std::string log = P("log");
+    ASSERT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, log.c_str(), "", 2), 0);
+    while (fs::file_size(log) < (1 << 20) - 50)
+        Logger::LogMsg(Logger::LOG_ERROR, "file_op_debug", "%s\n", "twenty bytes of text");
+    const int result = FSCopy(P("big"), "/dev/full", false);
+    Logger::Initialize(Logger::LOG_TYPE_STDERR, "", "", 2);
+    EXPECT_EQ(result, kFSCopyNoSpace);
+    EXPECT_TRUE(Exists(log + "_0")) << "the error line did not rotate the log";
 }
 
 // Every write succeeds into the cache of an ext4 volume whose backing file

@@ -6,9 +6,6 @@
 #include <cstdlib>
 #include <cstring>
 
-#include <QDir>
-#include <QString>
-
 #include "app_launch.h"
 #include "config.h"
 #include "file-op.h"
@@ -24,6 +21,12 @@ const char kClientExecutable[] = "drift-ui";
 // SIGKILL; each returns as soon as it has ended.
 const int kStopProbes = 5;
 const int kProbeMs = 1000;
+// SIGKILL ends a process only once it leaves the kernel: one blocked in
+// uninterruptible I/O (a network share) lives on until that returns. The
+// stop waits this long for it, then the upgrade goes on all the same: a
+// killed process never runs its own code again, and one that refused the
+// signal cannot be stopped from here at all.
+const int kKillWaitMs = 5000;
 
 ustring ClientExecutablePath(const ustring& app)
 {
@@ -206,16 +209,31 @@ void MacService::StopService()
         if (client.WaitForExit(kProbeMs))
             return;
     }
-    // Unchecked: nothing else could be done about a client that survives it.
-    client.Signal(SIGKILL);
+    Logger::LogMsg(Logger::LOG_WARNING, kComponent,
+                   "[WARNING] mac/mac-service(%d): pid %d did not end within %d seconds of SIGTERM, sending "
+                   "SIGKILL\n",
+                   __LINE__, static_cast<int>(pid), kStopProbes * kProbeMs / 1000);
+    const int kill_err = client.Signal(SIGKILL);
+    if (kill_err == ESRCH)
+        return;
+    if (kill_err != 0) {
+        Logger::LogMsg(Logger::LOG_ERROR, kComponent, "[ERROR] mac/mac-service(%d): kill: %s (%d)\n",
+                       __LINE__, strerror(kill_err), kill_err);
+    }
+    if (!client.WaitForExit(kKillWaitMs)) {
+        Logger::LogMsg(Logger::LOG_WARNING, kComponent,
+                       "[WARNING] mac/mac-service(%d): pid %d still runs %d seconds after SIGKILL, going on "
+                       "beside it\n",
+                       __LINE__, static_cast<int>(pid), kKillWaitMs / 1000);
+    }
 }
 
 int MacService::LaunchPerUserBin()
 {
-    const QString bundle = QDir::homePath() + "/.Driftwell/Driftwell.app";
     // Where the desktop does not track running applications itself, the pid
     // file tells whether the client runs already.
-    return OpenApplicationBundle(bundle, kClientExecutable, ReadPidFile(PidFilePath())) ? 0 : -1;
+    const ustring bundle = Service::GetUserDriftwellAppInstallPath();
+    return OpenApplicationBundle(bundle.c_str(), kClientExecutable, ReadPidFile(PidFilePath())) ? 0 : -1;
 }
 
 void MacService::PostUpgrade()

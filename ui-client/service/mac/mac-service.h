@@ -12,7 +12,8 @@ public:
     static MacService* GetInstace();
 
     // Stops the running client UI through ~/.Driftwell/ui.pid: SIGTERM, up to
-    // five probes of a second, SIGKILL; it returns as soon as the client has
+    // five probes of a second, SIGKILL and up to five seconds more (a WARNING
+    // for each of the last two steps); it returns as soon as the client has
     // ended. Only a process that runs the per-user client executable is ever
     // signalled, and only that very process (not a later one with its number);
     // a pid file naming anything else is logged and left alone. Reports
