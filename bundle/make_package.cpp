@@ -5,9 +5,10 @@
 // ROOT in sorted order, except the version record Contents/Resources/INFO,
 // which is always the last entry: an extraction that stops half-way never
 // leaves a record that claims the new build. Only folders, regular files and
-// symbolic links are stored; hard links never are, because the extractor does
-// not move a link's target below its destination. Owners are dropped and
-// times kept, so the same input gives the same bytes.
+// symbolic links are stored: a file with several names is stored once per
+// name, each with its own data, never as a hard link (the extractor would
+// place a hard link's target below its destination as well). Owners are
+// dropped and times kept, so the same input gives the same bytes.
 //
 // Exit status: 0 done, 1 bad usage, 2 the package could not be written (no
 // OUTPUT is left behind then).

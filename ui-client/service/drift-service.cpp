@@ -1,9 +1,13 @@
 #include "drift-service.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <cerrno>
+#include <climits>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -20,8 +24,8 @@ namespace {
 const char kComponent[] = "service_debug";
 // Backup names run from number 0 ("_tmp") to this one ("_tmp9").
 const int kLastBackupNumber = 9;
-const char kClientExecutable[] = "Contents/MacOS/drift-ui";
-const char kVersionRecord[] = "Contents/Resources/INFO";
+// A record is a few lines; anything larger is not one.
+const off_t kMaxRecordSize = 64 * 1024;
 
 ustring ToUstring(const QString& text)
 {
@@ -42,10 +46,38 @@ ustring GetAppBackupDir(const ustring& base, int number)
     return name + postfix;
 }
 
-// A missing file or key leaves the field as it was: a broken record simply
-// yields fewer keys. Its status tells the caller why, where that matters.
-QSettings::Status ReadVersionRecord(const ustring& path, VerInfo& info)
+// Why the record at path must not be handed to QSettings, which would block
+// on a FIFO and read a device such as /dev/zero without end; nullptr for a
+// regular file of at most kMaxRecordSize, and for one that cannot be opened
+// (QSettings finds that missing or unreadable itself). Opening does not
+// block. QSettings opens the path again: a file swapped in between is not
+// guarded against, the folders are the user's own.
+const char* RecordFileProblem(const ustring& path)
 {
+    const int fd = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (fd < 0)
+        return nullptr;
+    struct stat st;
+    const char* problem = nullptr;
+    if (fstat(fd, &st) != 0 || !S_ISREG(st.st_mode))
+        problem = "is not a regular file";
+    else if (st.st_size > kMaxRecordSize)
+        problem = "is larger than 64 KiB";
+    close(fd);
+    return problem;
+}
+
+// A missing file or key leaves the field as it was: a broken record simply
+// yields fewer keys. Its status tells the caller why, where that matters. A
+// file that RecordFileProblem refuses is not read (AccessError), and refused
+// (if given) receives why.
+QSettings::Status ReadVersionRecord(const ustring& path, VerInfo& info, const char** refused = nullptr)
+{
+    const char* problem = RecordFileProblem(path);
+    if (refused != nullptr)
+        *refused = problem;
+    if (problem != nullptr)
+        return QSettings::AccessError;
     QSettings record(QString::fromUtf8(path.c_str_utf8()), QSettings::IniFormat);
     record.beginGroup("Version");
     const struct {
@@ -81,26 +113,45 @@ const char* TargetRecordProblem(const ustring& path, QSettings::Status status, c
     return *end == '\0' ? nullptr : "has a build number that is not a number";
 }
 
-// As the upgrade decision reads it: empty is 0, otherwise atoi.
-int BuildNumber(const VerInfo& info)
+// Why the copy at folder is not complete; empty when it is: a client to
+// start, and a record with a usable build. The package carries its record
+// last, so an extraction cut short never has one, and a removal takes it
+// first. build (if given) receives the record's build number.
+ustring CopyProblem(const ustring& folder, int* build)
 {
-    return info.build_version.empty() ? 0 : std::atoi(info.build_version.c_str_utf8());
+    if (const char* problem = ClientProblem(folder))
+        return "client '" + ClientExecutablePath(folder) + "' " + problem;
+    const ustring path = VersionRecordPath(folder);
+    VerInfo record;
+    const char* refused = nullptr;
+    ReadVersionRecord(path, record, &refused);
+    if (refused != nullptr)
+        return "version record '" + path + "' " + refused;
+    int number = 0;
+    if (record.build_version.empty())
+        return "version record '" + path + "' has no build number";
+    if (!ParseBuildNumber(record.build_version, number))
+        return "version record '" + path + "' has build number '" + record.build_version +
+               "', negative or too large";
+    if (build != nullptr)
+        *build = number;
+    return ustring();
 }
 
-// The client executable and a record with a build: the package carries its
-// record last, so an extraction cut short never has one, and a removal takes
-// it first. build (if given) receives the record's build number.
 bool IsCompleteCopy(const ustring& folder, int* build)
 {
-    if (access((folder + "/" + kClientExecutable).c_str(), F_OK) != 0)
-        return false;
-    VerInfo record;
-    ReadVersionRecord(folder + "/" + kVersionRecord, record);
-    if (record.build_version.empty())
-        return false;
-    if (build != nullptr)
-        *build = BuildNumber(record);
-    return true;
+    return CopyProblem(folder, build).empty();
+}
+
+// The bundle's build as the upgrade decision counts it (0 without a usable
+// one); what is wrong with its record was logged when it was loaded.
+int BundleBuild()
+{
+    VerInfo bundle;
+    ReadVersionRecord(VersionRecordPath(Service::GetRootDriftwellInstallPath()), bundle);
+    int build = 0;
+    ParseBuildNumber(bundle.build_version, build);
+    return build;
 }
 
 // The number of the complete backup with the highest build (the lowest
@@ -125,14 +176,18 @@ bool IsRealFolder(const ustring& path)
 }
 
 // Removes a copy of the bundle, its record first: a removal cut short never
-// leaves a folder that passes for a complete copy. Best effort.
-void RemoveCopy(const ustring& folder)
+// leaves a folder that passes for a complete copy. A link is removed itself.
+// 0, or the errno of the failure (-1 when it left none).
+int RemoveCopy(const ustring& folder)
 {
     // Only through real folders: a link among them could point anywhere.
     if (IsRealFolder(folder) && IsRealFolder(folder + "/Contents") &&
         IsRealFolder(folder + "/Contents/Resources"))
-        FSRemove(folder + "/" + kVersionRecord, false);
-    FSRemove(folder, false);
+        FSRemove(VersionRecordPath(folder), false);
+    errno = 0;
+    if (FSRemove(folder, false) == kFSOk)
+        return 0;
+    return errno != 0 ? errno : -1;
 }
 
 // Every backup name but number keep, each removal logged.
@@ -143,14 +198,69 @@ void RemoveLeftoverBackups(const ustring& app, int keep)
         _FILE_INFO_tag info;
         if (i == keep || GetFileInfo(backup, info) != 0 || !info.exist)
             continue;
-        Logger::LogMsg(Logger::LOG_WARNING, kComponent,
-                       "[WARNING] drift-service(%d): removing leftover backup '%s'\n", __LINE__,
-                       backup.c_str());
-        RemoveCopy(backup);
+        if (info.type == FILE_TYPE_LINK)
+            Logger::LogMsg(Logger::LOG_WARNING, kComponent,
+                           "[WARNING] drift-service(%d): backup name '%s' is a symbolic link, removing "
+                           "the link\n",
+                           __LINE__, backup.c_str());
+        else
+            Logger::LogMsg(Logger::LOG_WARNING, kComponent,
+                           "[WARNING] drift-service(%d): removing leftover backup '%s'\n", __LINE__,
+                           backup.c_str());
+        // It holds its name until a later launch manages; the rename of the
+        // old copy takes the next free one.
+        const int err = RemoveCopy(backup);
+        if (err != 0)
+            Logger::LogMsg(Logger::LOG_ERROR, kComponent,
+                           "[ERROR] drift-service(%d): failed to remove leftover backup '%s': %s\n", __LINE__,
+                           backup.c_str(), err > 0 ? strerror(err) : "cause unknown");
     }
 }
 
 }  // namespace
+
+ustring ClientExecutablePath(const ustring& app)
+{
+    return app + "/Contents/MacOS/" + kClientExecutable;
+}
+
+ustring VersionRecordPath(const ustring& app)
+{
+    return app + "/Contents/Resources/INFO";
+}
+
+bool ParseBuildNumber(const ustring& text, int& number)
+{
+    number = 0;
+    if (text.empty())
+        return false;
+    // atoi's reading, without its wrap: 2147483648 would be INT_MIN.
+    errno = 0;
+    const long long value = std::strtoll(text.c_str(), nullptr, 10);
+    if (errno == ERANGE || value < 0 || value > INT_MAX)
+        return false;
+    number = static_cast<int>(value);
+    return true;
+}
+
+const char* ClientProblem(const ustring& app)
+{
+    const ustring paths[] = {app, app + "/Contents", app + "/Contents/MacOS", ClientExecutablePath(app)};
+    struct stat st;
+    for (const ustring& path : paths) {
+        if (lstat(path.c_str(), &st) != 0)
+            return errno == ENOENT || errno == ENOTDIR ? "is missing" : "cannot be examined";
+        if (&path != &paths[3] && !S_ISDIR(st.st_mode))
+            return "is not inside the copy (a link or a file on its way)";
+    }
+    if (S_ISLNK(st.st_mode))
+        return "is a symbolic link";
+    if (S_ISDIR(st.st_mode))
+        return "is a folder";
+    if (!S_ISREG(st.st_mode))
+        return "is not a regular file";
+    return (st.st_mode & S_IXUSR) != 0 ? nullptr : "is not executable";
+}
 
 Service::Service() : timeout(0) {}
 
@@ -193,15 +303,17 @@ ustring Service::GetUserDriftwellDataInstallPath()
 
 void Service::LoadTargetVersion()
 {
-    const ustring path = GetRootDriftwellResourceInstallPath() + "/" + "INFO";
-    const QSettings::Status status = ReadVersionRecord(path, target_version);
+    const ustring path = VersionRecordPath(GetRootDriftwellInstallPath());
+    const char* refused = nullptr;
+    const QSettings::Status status = ReadVersionRecord(path, target_version, &refused);
     Logger::LogMsg(Logger::LOG_INFO, kComponent,
                    "[INFO] drift-service(%d): target_version = (%s, %s, %s, %s)\n", __LINE__,
                    target_version.major_version.c_str(), target_version.minor_version.c_str(),
                    target_version.build_version.c_str(), target_version.icon_overlay_version.c_str());
     // A broken bundle: without its build nothing is upgraded unless the
     // client is missing.
-    if (const char* problem = TargetRecordProblem(path, status, target_version)) {
+    if (const char* problem = refused != nullptr ? refused
+                                                 : TargetRecordProblem(path, status, target_version)) {
         Logger::LogMsg(Logger::LOG_WARNING, kComponent,
                        "[WARNING] drift-service(%d): bundle version record '%s' %s\n", __LINE__, path.c_str(),
                        problem);
@@ -210,18 +322,24 @@ void Service::LoadTargetVersion()
 
 void Service::LoadSourceVersion()
 {
-    ustring path = GetUserDriftwellAppInstallPath() + "/Contents/Resources" + "/" + "INFO";
-    if (!IsFileExist(path, false)) {
-        // Not an error: there is no per-user copy yet, or it lost its record.
-        Logger::LogMsg(Logger::LOG_INFO, kComponent, "[INFO] drift-service(%d): source does not exist\n",
-                       __LINE__);
-        return;
+    const ustring path = VersionRecordPath(GetUserDriftwellAppInstallPath());
+    const char* refused = nullptr;
+    if (IsFileExist(path, false)) {
+        ReadVersionRecord(path, source_version, &refused);
+        if (refused == nullptr) {
+            Logger::LogMsg(Logger::LOG_INFO, kComponent,
+                           "[INFO] drift-service(%d): source_version = (%s, %s, %s, %s)\n", __LINE__,
+                           source_version.major_version.c_str(), source_version.minor_version.c_str(),
+                           source_version.build_version.c_str(), source_version.icon_overlay_version.c_str());
+            return;
+        }
+        Logger::LogMsg(Logger::LOG_WARNING, kComponent,
+                       "[WARNING] drift-service(%d): version record '%s' %s, taken as missing\n", __LINE__,
+                       path.c_str(), refused);
     }
-    ReadVersionRecord(path, source_version);
-    Logger::LogMsg(Logger::LOG_INFO, kComponent,
-                   "[INFO] drift-service(%d): source_version = (%s, %s, %s, %s)\n", __LINE__,
-                   source_version.major_version.c_str(), source_version.minor_version.c_str(),
-                   source_version.build_version.c_str(), source_version.icon_overlay_version.c_str());
+    // Not an error: there is no per-user copy yet, or it lost its record.
+    Logger::LogMsg(Logger::LOG_INFO, kComponent, "[INFO] drift-service(%d): source does not exist\n",
+                   __LINE__);
 }
 
 int Service::PrepareUserEnv()
@@ -271,10 +389,33 @@ int Service::PrepareUserEnv()
         }
     }
 
-    if (ExtractPackage() == 0) {
+    int extracted = ExtractPackage();
+    int build = 0;
+    if (extracted == 0) {
+        // A package without a startable client or a usable record extracts
+        // without a fault; the old copy must not go for it.
+        const ustring problem = CopyProblem(app, &build);
+        if (!problem.empty()) {
+            Logger::LogMsg(Logger::LOG_ERROR, kComponent,
+                           "[ERROR] drift-service(%d): the new copy '%s' is not complete: %s\n", __LINE__,
+                           app.c_str(), problem.c_str());
+            extracted = -1;
+        }
+    }
+    if (extracted == 0) {
         Logger::LogMsg(Logger::LOG_INFO, kComponent,
                        "[INFO] drift-service(%d): user installation is ready, removing backup app\n",
                        __LINE__);
+        const int bundle_build = BundleBuild();
+        if (build < bundle_build) {
+            // The package's record disagrees with the bundle's: the decision
+            // will find the copy older than the bundle on every launch.
+            Logger::LogMsg(Logger::LOG_WARNING, kComponent,
+                           "[WARNING] drift-service(%d): the new copy has build %d, below the bundle's %d: "
+                           "its package's version record disagrees with the bundle's, every launch will "
+                           "install it again\n",
+                           __LINE__, build, bundle_build);
+        }
         // Best effort: a backup that stays goes on a later launch.
         if (!backup.empty())
             RemoveCopy(backup);
@@ -295,8 +436,15 @@ int Service::PrepareUserEnv()
                    "installation\n",
                    __LINE__);
     const int newest = NewestCompleteBackup(app);
-    if (newest < 0)
-        return -1;  // never put a partial copy in place
+    if (newest < 0) {
+        // Never a partial copy in place: the new one stays, as on a first
+        // installation, and the next launch starts afresh.
+        Logger::LogMsg(Logger::LOG_WARNING, kComponent,
+                       "[WARNING] drift-service(%d): no complete backup to restore ('%s' is not one), the "
+                       "partial new copy '%s' stays\n",
+                       __LINE__, backup.c_str(), app.c_str());
+        return -1;
+    }
     const ustring restore = GetAppBackupDir(app, newest);
     Logger::LogMsg(Logger::LOG_WARNING, kComponent, "[WARNING] drift-service(%d): restoring '%s'\n", __LINE__,
                    restore.c_str());
@@ -335,10 +483,8 @@ void Service::RemoveAgedFolders()
 
     // Backups outlive an upgrade cut short after its extraction; once the copy
     // in place is whole and needs no upgrade, nothing else is worth keeping.
-    VerInfo bundle;
-    ReadVersionRecord(GetRootDriftwellResourceInstallPath() + "/" + "INFO", bundle);
     int build = 0;
-    if (IsCompleteCopy(app_path, &build) && build >= BuildNumber(bundle))
+    if (IsCompleteCopy(app_path, &build) && build >= BundleBuild())
         RemoveLeftoverBackups(app_path, -1);
 }
 

@@ -14,6 +14,25 @@ struct VerInfo {
     ustring icon_overlay_version;
 };
 
+// Every copy of the bundle (the bundle itself, the per-user copy, a backup)
+// keeps its client as Contents/MacOS/kClientExecutable and its version record
+// as Contents/Resources/INFO.
+inline constexpr char kClientExecutable[] = "drift-ui";
+ustring ClientExecutablePath(const ustring& app);
+ustring VersionRecordPath(const ustring& app);
+
+// A version record's build number as the upgrade decision reads it: leading
+// blanks, an optional sign, then the digits up to the first other character
+// (no digits read as 0). False, with number 0, when the text is empty or the
+// number is negative or does not fit an int: such a record has no usable
+// build, just as one without the key.
+bool ParseBuildNumber(const ustring& text, int& number);
+
+// Why the copy at app has no client to start; nullptr when its client is a
+// regular file with the owner's execute bit, reached through real folders
+// only (app, Contents, Contents/MacOS: no link is followed on the way).
+const char* ClientProblem(const ustring& app);
+
 class Service {
 public:
     Service();
@@ -31,19 +50,24 @@ public:
     // upgraded or not. A failure is logged; the launcher ends normally anyway.
     virtual void PostUpgrade() = 0;
     // Loads the bundle's and the per-user copy's version records; a missing
-    // file or key leaves the field as it was. Called once, before anything else.
+    // file or key leaves the field as it was, and so does a record that is not
+    // a regular file of at most 64 KiB (a FIFO, a device: refused with a
+    // WARNING, never opened by QSettings). Called once, before anything else.
     virtual void PreUpgrade() = 0;
     // From the records that PreUpgrade loaded: true when the per-user copy must
-    // be installed or upgraded (its client executable is missing, its record
-    // has no build number, or the bundle's build number is greater).
+    // be installed or upgraded (it has no client to start, its record has no
+    // usable build number, or the bundle's build number is greater). A build
+    // number that is negative or too large is logged and counts as none.
     virtual bool IsNeedUpgrade() = 0;
     // Extracts the bundle's package into the per-user bundle folder; 0 or -1.
     virtual int ExtractPackage();
     virtual void LoadSourceVersion();
     virtual void LoadTargetVersion();
-    // Moves the old per-user bundle to a backup name, extracts, and on failure
-    // puts back the complete backup with the highest build. Leftovers of an
-    // interrupted run are cleared first; a complete backup stands in for a
+    // Moves the old per-user bundle to a backup name, extracts, and when the
+    // extraction fails or leaves no complete copy (a client to start, a record
+    // with a usable build) puts back the complete backup with the highest
+    // build. Leftovers of an interrupted run are cleared first (links among
+    // them removed, never followed); a complete backup stands in for a
     // missing or partial copy. 0 when the new copy is in place.
     virtual int PrepareUserEnv();
 

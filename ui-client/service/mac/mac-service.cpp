@@ -1,6 +1,7 @@
 #include "mac-service.h"
 
 #include <signal.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <cerrno>
 #include <cstdlib>
@@ -16,7 +17,6 @@
 namespace {
 
 const char kComponent[] = "service_debug";
-const char kClientExecutable[] = "drift-ui";
 // The stopped client has five probes of up to a second each to end before
 // SIGKILL; each returns as soon as it has ended.
 const int kStopProbes = 5;
@@ -27,11 +27,6 @@ const int kProbeMs = 1000;
 // killed process never runs its own code again, and one that refused the
 // signal cannot be stopped from here at all.
 const int kKillWaitMs = 5000;
-
-ustring ClientExecutablePath(const ustring& app)
-{
-    return app + "/" + "Contents/MacOS" + "/" + kClientExecutable;
-}
 
 ustring PidFilePath()
 {
@@ -67,6 +62,18 @@ pid_t ParsePid(const ustring& text)
     return static_cast<pid_t>(value);
 }
 
+// Read as atoi reads it, such a number wrapped (2147483648 became INT_MIN)
+// and the decision went wrong without a word.
+void WarnUnusableBuild(const VerInfo& record, bool usable, const ustring& path)
+{
+    if (usable || record.build_version.empty())
+        return;
+    Logger::LogMsg(Logger::LOG_WARNING, kComponent,
+                   "[WARNING] mac/mac-service(%d): version record '%s' has build number '%s', negative or "
+                   "too large: it counts as having no build\n",
+                   __LINE__, path.c_str(), record.build_version.c_str());
+}
+
 }  // namespace
 
 MacService::MacService()
@@ -83,7 +90,7 @@ MacService* MacService::GetInstace()
 
 bool MacService::PerUserBinPathExist()
 {
-    return access(ClientExecutablePath(app_path).c_str(), F_OK) == 0;
+    return ClientProblem(app_path) == nullptr;
 }
 
 void MacService::LoadSourceVerInfo()
@@ -110,24 +117,32 @@ void MacService::PreUpgrade()
 
 bool MacService::IsNeedUpgrade()
 {
-    const int source = source_version.build_version.empty()
-                           ? 0
-                           : std::atoi(source_version.build_version.c_str_utf8());
-    const int target = target_version.build_version.empty()
-                           ? 0
-                           : std::atoi(target_version.build_version.c_str_utf8());
+    int source = 0, target = 0;
+    const bool source_usable = ParseBuildNumber(source_version.build_version, source);
+    const bool target_usable = ParseBuildNumber(target_version.build_version, target);
+    WarnUnusableBuild(source_version, source_usable, VersionRecordPath(app_path));
+    WarnUnusableBuild(target_version, target_usable, VersionRecordPath(GetRootDriftwellInstallPath()));
     Logger::LogMsg(Logger::LOG_DEBUG, kComponent,
                    "[DEBUG] mac/mac-service(%d): source version = %d, target version = %d\n", __LINE__,
                    source, target);
-    // A copy without its executable is reinstalled even from an older bundle;
-    // one without a build in its record is an extraction cut short.
+    // A copy without a client to start is reinstalled even from an older
+    // bundle; one without a usable build in its record is an extraction cut
+    // short, or cannot be compared. A bundle without one counts as build 0.
     const bool installed = PerUserBinPathExist();
-    return !installed || source_version.build_version.empty() || target > source;
+    struct stat st;
+    if (!installed && lstat(ClientExecutablePath(app_path).c_str(), &st) == 0) {
+        Logger::LogMsg(Logger::LOG_WARNING, kComponent,
+                       "[WARNING] mac/mac-service(%d): client '%s' %s, the copy is installed again\n",
+                       __LINE__, ClientExecutablePath(app_path).c_str(), ClientProblem(app_path));
+    }
+    return !installed || !source_usable || target > source;
 }
 
 int MacService::HandlePackageUpgrade()
 {
-    if (PerUserBinPathExist()) {
+    // A client may run from the copy whatever its executable has become since.
+    struct stat st;
+    if (lstat(ClientExecutablePath(app_path).c_str(), &st) == 0) {
         Logger::LogMsg(Logger::LOG_DEBUG, kComponent, "[DEBUG] mac/mac-service(%d): local appdata exist\n",
                        __LINE__);
         StopService();

@@ -24,7 +24,8 @@ public:
     void PreUpgrade() override;
     bool IsNeedUpgrade() override;
 
-    // True when app_path/Contents/MacOS/drift-ui exists (existence only).
+    // True when the per-user copy has a client to start (ClientProblem finds
+    // nothing wrong with app_path/Contents/MacOS/drift-ui).
     bool PerUserBinPathExist();
     // Opens the per-user bundle (starts the client or brings it to front); 0 or -1.
     int LaunchPerUserBin();

@@ -4,11 +4,14 @@
 // bundle's log/launcher.debug. Prints one result:
 //   service_driver LOG decide        PreUpgrade + IsNeedUpgrade: 1 or 0
 //   service_driver LOG upgrade       HandlePackageUpgrade: its result
+//   service_driver LOG upgrade-losing-backup   the same, the record of backup
+//                                    number 0 removed as the extraction starts
 //   service_driver LOG stop          StopService: milliseconds it took
 //   service_driver LOG launch        PostUpgrade: whether children of ours remain
 //   service_driver LOG remove-aged   RemoveAgedFolders: nothing
 //   service_driver LOG copy SRC DST  FSCopyPath: its result
 #include <sys/wait.h>
+#include <unistd.h>
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
@@ -21,13 +24,23 @@
 
 namespace {
 
+// A backup damaged behind the service's back while it extracts.
+class BackupLosingService : public MacService {
+public:
+    int ExtractPackage() override
+    {
+        unlink(VersionRecordPath(app_path + "_tmp").c_str());
+        return Service::ExtractPackage();
+    }
+};
+
 int Run(MacService& service, int argc, char** argv)
 {
     const char* command = argv[2];
     if (strcmp(command, "decide") == 0) {
         service.PreUpgrade();
         printf("%d\n", service.IsNeedUpgrade() ? 1 : 0);
-    } else if (strcmp(command, "upgrade") == 0) {
+    } else if (strcmp(command, "upgrade") == 0 || strcmp(command, "upgrade-losing-backup") == 0) {
         printf("%d\n", service.HandlePackageUpgrade());
     } else if (strcmp(command, "stop") == 0) {
         const auto start = std::chrono::steady_clock::now();
@@ -66,7 +79,8 @@ int main(int argc, char** argv)
         return 2;
     }
     // Owned as the launcher's worker owns it: made with new, deleted through Service.
-    MacService* service = new MacService;
+    MacService* service = strcmp(argv[2], "upgrade-losing-backup") == 0 ? new BackupLosingService
+                                                                        : new MacService;
     const int rc = Run(*service, argc, argv);
     delete static_cast<Service*>(service);
     fflush(stdout);

@@ -119,14 +119,25 @@ protected:
     std::string Bak(int n) const { return app_ + "_tmp" + (n == 0 ? "" : std::to_string(n)); }
     std::string Package() const { return bundle_ + "/Contents/Resources/package/driftwell.tpk"; }
 
-    // The new build, every entry 0755.
+    // The new build, every entry 0755, its record last.
     static std::vector<Entry> NewPackage()
     {
         return {{Entry::Folder, "Contents", "", 0755},
                 {Entry::Folder, "Contents/MacOS", "", 0755},
                 {Entry::File, "Contents/MacOS/drift-ui", "new ui", 0755},
                 {Entry::Folder, "Contents/Resources", "", 0755},
-                {Entry::File, "Contents/Resources/new.txt", "new", 0755}};
+                {Entry::File, "Contents/Resources/new.txt", "new", 0755},
+                {Entry::File, "Contents/Resources/INFO", "[Version]\nbuild_version=2\n", 0755}};
+    }
+
+    // The new build, or one that breaks off in a large file before its record.
+    bool WritePackage(bool damaged) const
+    {
+        std::vector<Entry> package = NewPackage();
+        if (damaged)
+            package.insert(package.begin() + 3,
+                           {Entry::File, "Contents/MacOS/big.bin", std::string(200000, 'x'), 0755});
+        return dwtest::WriteArchive(Package(), package, {}, damaged ? -100000 : 0);
     }
 
     // An installed per-user copy of that build at app_ (or at another
@@ -194,6 +205,9 @@ struct DecideRow : dwtest::Row {
     int source_number, target_number;  // as logged
     const char* problem;  // with the bundle's record: without a build of its own it upgrades nothing
     const char* log;      // the whole service log, a line feed after each line, when given
+    // A build number warned about as negative or too large: it counts as none.
+    const char* unusable_source = nullptr;
+    const char* unusable_target = nullptr;
 };
 
 const DecideRow kDecideRows[] = {
@@ -215,7 +229,11 @@ const DecideRow kDecideRows[] = {
      "[DEBUG] mac/mac-service(N): Target version: ('7', '3')\n"
      "[DEBUG] mac/mac-service(N): source version = 7, target version = 7\n"},
     {"negative_source_empty_target", "[Version]\nmajor_version=1\n", "[Version]\nbuild_version=-1\n", true,
-     true, -1, 0, "has no build number", nullptr},
+     true, 0, 0, "has no build number", nullptr, "-1"},
+    {"overflowing_target", "[Version]\nbuild_version=99999999999999999999\n", "[Version]\nbuild_version=1\n",
+     true, false, 1, 0, nullptr, nullptr, nullptr, "99999999999999999999"},
+    {"source_above_int_max", "[Version]\nbuild_version=5\n", "[Version]\nbuild_version=2147483648\n", true,
+     true, 0, 5, nullptr, nullptr, "2147483648"},
     {"digits_then_letters", "[Version]\nbuild_version=1234abc\n", "[Version]\nbuild_version=1233\n", true,
      true, 1233, 1234, "has a build number that is not a number", nullptr},
     {"leading_letter", "[Version]\nbuild_version=abc\n", "[Version]\nbuild_version=1\n", true, false, 1, 0,
@@ -250,10 +268,17 @@ TEST_P(ServiceDecides, OnBuildNumbersAndTheExecutable)
     if (row.log != nullptr) {
         EXPECT_EQ(joined, row.log);
     }
-    EXPECT_EQ(Warnings(), row.problem == nullptr
-                              ? Lines{}
-                              : Lines{"[WARNING] drift-service(N): bundle version record '" + bundle_ +
-                                      "/Contents/Resources/INFO' " + row.problem});
+    Lines warnings;
+    if (row.problem != nullptr)
+        warnings.push_back("[WARNING] drift-service(N): bundle version record '" + bundle_ +
+                           "/Contents/Resources/INFO' " + row.problem);
+    for (const auto& [at, build] :
+         {std::pair(app_, row.unusable_source), std::pair(bundle_, row.unusable_target)})
+        if (build != nullptr)
+            warnings.push_back("[WARNING] mac/mac-service(N): version record '" + at +
+                               "/Contents/Resources/INFO' has build number '" + build +
+                               "', negative or too large: it counts as having no build");
+    EXPECT_EQ(Warnings(), warnings);
 }
 
 INSTANTIATE_TEST_SUITE_P(Records, ServiceDecides, testing::ValuesIn(kDecideRows), dwtest::RowName());
@@ -449,11 +474,7 @@ TEST_P(ServiceUpgrades, RecoversWhatInterruptedRunsLeft)
     for (const auto& [number, build] : row.backups)
         InstallOldCopy(Bak(number), build);
     const Tree before = row.restored < 0 ? Tree() : Snapshot(row.restored == kApp ? app_ : Bak(row.restored));
-    std::vector<Entry> damaged = NewPackage();
-    damaged.insert(damaged.begin() + 3,
-                   {Entry::File, "Contents/MacOS/big.bin", std::string(200000, 'x'), 0755});
-    ASSERT_TRUE(
-        dwtest::WriteArchive(Package(), row.damaged ? damaged : NewPackage(), {}, row.damaged ? -100000 : 0));
+    ASSERT_TRUE(WritePackage(row.damaged));
     pid_t client = 0;
     if (row.app > 0 && !row.locked) {
         ASSERT_GT(client = StartClient("term"), 0);
@@ -473,6 +494,11 @@ TEST_P(ServiceUpgrades, RecoversWhatInterruptedRunsLeft)
         const Lines log = ServiceLog();
         EXPECT_EQ(log.back(), "[ERROR] drift-service(N): failed to backup app from '" + app_ + "' -> '" +
                                   Bak(9) + "' at max retries, exiting");
+        for (int i = 0; i <= 9; ++i)
+            EXPECT_NE(std::find(log.begin(), log.end(),
+                                "[ERROR] drift-service(N): failed to remove leftover backup '" + Bak(i) +
+                                    "': Permission denied"),
+                      log.end());
     }
     if (client > 0) {
         EXPECT_TRUE(WaitFor([&] { return ProcessGone(client); }));
@@ -484,7 +510,7 @@ INSTANTIATE_TEST_SUITE_P(Leftovers, ServiceUpgrades, testing::ValuesIn(kUpgradeR
 TEST_F(ServiceTest, FailedFirstInstallationKeepsThePartialCopy)
 {
     std::vector<Entry> package = NewPackage();
-    package.push_back({Entry::File, "../escape", "out", 0755});
+    package.insert(package.end() - 1, {Entry::File, "../escape", "out", 0755});
     ASSERT_TRUE(dwtest::WriteArchive(Package(), package));
 
     EXPECT_EQ(Run({"upgrade"}), "-1");
@@ -492,7 +518,48 @@ TEST_F(ServiceTest, FailedFirstInstallationKeepsThePartialCopy)
         ServiceLog(),
         (Lines{"[INFO] drift-service(N): extract package: '" + Package() + "' -> '" + app_ + "'",
                "[ERROR] drift-service(N): Failed to extract package, and no old installation to rollback"}));
-    EXPECT_EQ(Snapshot(app_), dwtest::TreeOf(NewPackage()));
+    package.erase(package.end() - 2, package.end());
+    EXPECT_EQ(Snapshot(app_), dwtest::TreeOf(package));
+}
+
+// Gone while the extraction ran, so there is nothing to go back to.
+TEST_F(ServiceTest, RollbackWithoutACompleteBackupSaysWhatStays)
+{
+    InstallOldCopy();
+    ASSERT_TRUE(WritePackage(true));
+    EXPECT_EQ(Run({"upgrade-losing-backup"}), "-1");
+    EXPECT_EQ(Warnings(), Lines{"[WARNING] drift-service(N): no complete backup to restore ('" + Bak(0) +
+                                "' is not one), the partial new copy '" + app_ + "' stays"});
+    EXPECT_EQ(ReadFile(app_ + "/Contents/MacOS/drift-ui"), "new ui");
+}
+
+TEST_F(ServiceTest, LinkInABackupNameIsRemovedNeverFollowed)
+{
+    const std::string elsewhere = root_ + "/elsewhere";
+    InstallOldCopy("", -1);
+    InstallOldCopy(elsewhere, 5);
+    const Tree there = Snapshot(elsewhere);
+    ASSERT_EQ(symlink(elsewhere.c_str(), Bak(0).c_str()), 0);
+    ASSERT_TRUE(WritePackage(true));
+    EXPECT_EQ(Run({"upgrade"}), "-1");
+    EXPECT_EQ(Warnings(), (Lines{"[WARNING] drift-service(N): removing incomplete copy '" + app_ + "'",
+                                 "[WARNING] drift-service(N): backup name '" + Bak(0) +
+                                     "' is a symbolic link, removing the link"}));
+    EXPECT_FALSE(Exists(Bak(0)));
+    EXPECT_FALSE(std::filesystem::is_symlink(app_));
+    EXPECT_EQ(Snapshot(elsewhere), there);
+}
+
+// The package's record disagrees with the bundle's: every launch reinstalls.
+TEST_F(ServiceTest, InstalledBuildBelowTheBundlesIsSaid)
+{
+    ASSERT_TRUE(WriteFile(bundle_ + "/Contents/Resources/INFO", "[Version]\nbuild_version=5\n"));
+    ASSERT_TRUE(WritePackage(false));
+    EXPECT_EQ(Run({"upgrade"}), "0");
+    EXPECT_EQ(Warnings(),
+              Lines{"[WARNING] drift-service(N): the new copy has build 2, below the bundle's 5: its "
+                    "package's version record disagrees with the bundle's, every launch will "
+                    "install it again"});
 }
 
 // ---- launching the client ------------------------------------------------
