@@ -14,6 +14,7 @@
 #include "extractor.h"
 #include "file-op.h"
 #include "log.h"
+#include "user_folders.h"
 
 namespace {
 
@@ -161,14 +162,17 @@ void Service::SetTimeout(int value)
     timeout = value;
 }
 
+// Both as bytes, never through QString: a folder name that is not UTF-8
+// would come back as another name.
 ustring Service::GetUserInstallPath()
 {
-    return ToUstring(QDir::homePath());
+    return ustring(HomeFolder().c_str());
 }
 
+// Where the executable really is: two folders above its Contents/MacOS.
 ustring Service::GetRootDriftwellInstallPath()
 {
-    return ToUstring(QDir::cleanPath(QCoreApplication::applicationDirPath() + "/" + "../.."));
+    return ustring(ParentFolder(ExecutablePath(), 3).c_str());
 }
 
 ustring Service::GetRootDriftwellResourceInstallPath()
