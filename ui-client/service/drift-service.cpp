@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QSettings>
 #include <QString>
 #include <QVariant>
@@ -47,7 +48,7 @@ ustring GetAppBackupDir(const ustring& base, int number)
 // yields fewer keys. Its status tells the caller why, where that matters.
 QSettings::Status ReadVersionRecord(const ustring& path, VerInfo& info)
 {
-    QSettings record(QString::fromUtf8(path.c_str_utf8()), QSettings::IniFormat);
+    QSettings record(QFile::decodeName(path.c_str()), QSettings::IniFormat);
     record.beginGroup("Version");
     const struct {
         const char* key;
