@@ -841,6 +841,10 @@ ustring ustring::normalize(const ustring& s, normalization_form f)
     ustring result;
     if (s.data_len == 0)
         return result;
+    // A Linux file name may hold any bytes: with no Unicode form of its own,
+    // it stays as it is and still names its file.
+    if (!is_valid(s))
+        return s;
     UErrorCode err = U_ZERO_ERROR;
     const int get_line = __LINE__ + 1;
     const UNormalizer2* norm = unorm2_getInstance(nullptr, "nfc", kModes[f == NFD ? 1 : 0], &err);

@@ -128,7 +128,8 @@ public:
     int compare(const ustring& s, size_t n) const;
     static int compare(const ustring& a, const ustring& b, bool ignore_case);
 
-    // Unicode (ICU).
+    // Unicode (ICU). Text that is not valid UTF-8 is normalised to itself,
+    // silently.
     static bool is_valid(const ustring& s);
     ustring normalize(normalization_form f) const;
     static ustring normalize(const ustring& s, normalization_form f);

@@ -3,10 +3,15 @@
 // every case.
 #include <clocale>
 #include <cstdio>
+#include <string>
+#include <vector>
 
 #include <QApplication>
+#include <QByteArray>
 #include <QDir>
+#include <QFile>
 #include <QStringList>
+#include <QTextCodec>
 #include <QTranslator>
 
 #include "TalvLocale.h"
@@ -15,18 +20,46 @@
 #include "log.h"
 #include "single_instance.h"
 #include "strtable.h"
+#include "user_folders.h"
+
+namespace {
+
+// Qt's 8-bit file names are UTF-8 here, and its UTF-8 codec turns bytes that
+// are not UTF-8 into U+FFFD for good: a home or bundle folder so named would
+// become another path. Latin-1 maps every byte to a character and back, so
+// with it QFile::decodeName and encodeName keep any path exactly. Taken only
+// when needed: otherwise Qt reads UTF-8 names as the text they are.
+void KeepPathBytesThroughQt(const std::vector<std::string>& paths)
+{
+    for (const std::string& path : paths) {
+        const QByteArray bytes(path.data(), static_cast<int>(path.size()));
+        if (QString::fromUtf8(bytes).toUtf8() != bytes) {
+            QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
+            return;
+        }
+    }
+}
+
+}  // namespace
 
 int main(int argc, char* argv[])
 {
     setlocale(LC_ALL, "");
+    // Before anything reads HOME, and before any other thread exists.
+    SettleHome();
     qInitResources_texts();
 
-    // From argv[0] as given, before the application object exists: the
-    // bundle's own plug-ins replace Qt's whole search list.
-    const QString argv0 = (argc > 0 && argv[0] != nullptr) ? QString::fromUtf8(argv[0]) : QString();
-    const QString plugin_dir = QDir::cleanPath(argv0 + QStringLiteral("/../../Frameworks/plugins"));
-    QCoreApplication::setLibraryPaths(QStringList(plugin_dir));
-    printf("lib path = '%s'\n", plugin_dir.toUtf8().constData());
+    // From where the executable really is, before the application object
+    // exists: argv[0] as typed may be a link elsewhere or a bare name found in
+    // PATH. The bundle's own plug-ins replace Qt's whole search list.
+    const std::string plugin_dir = ParentFolder(ExecutablePath(), 2) + "/Frameworks/plugins";
+    // What Qt is given below: the plug-ins and the bundle above them, the
+    // home folder (log, lock) and the lock's other folders.
+    std::vector<std::string> paths = PrivateLockFolders(HomeFolder());
+    paths.push_back(plugin_dir);
+    KeepPathBytesThroughQt(paths);
+    QCoreApplication::setLibraryPaths(QStringList(QFile::decodeName(plugin_dir.c_str())));
+    printf("lib path = '%s'\n", plugin_dir.c_str());
     fflush(stdout);
 
     QApplication app(argc, argv);
@@ -38,7 +71,7 @@ int main(int argc, char* argv[])
     // error.
     const ustring debug_file = Service::GetRootDriftwellInstallPath() + "/log/launcher.debug";
     const ustring log_dir = Service::GetUserDriftwellInstallPath() + "/log";
-    if (QDir().mkpath(QString::fromUtf8(log_dir.c_str_utf8())))
+    if (QDir().mkpath(QFile::decodeName(log_dir.c_str())))
         Logger::Initialize(Logger::LOG_TYPE_FILE, log_dir + "/launcher.log", debug_file, 50);
 
     SingleInstance instance;

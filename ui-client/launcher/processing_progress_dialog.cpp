@@ -1,20 +1,12 @@
 #include "processing_progress_dialog.h"
 
 #include <QCloseEvent>
+#include <QFile>
 #include <QFont>
 #include <QIcon>
 
 #include "drift-service.h"
 #include "strtable.h"
-
-namespace {
-
-QString ToQString(const ustring& text)
-{
-    return QString::fromUtf8(text.c_str_utf8());
-}
-
-}  // namespace
 
 ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, Qt::WindowFlags())
 {
@@ -22,7 +14,7 @@ ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, 
     const ustring icon_path = Service::GetRootDriftwellResourceInstallPath() + "/images/ico_72_driftwell.png";
     setWindowTitle(StrTable::LoadStr(StrTable::kIdAppName));
     // A missing icon file just leaves the window without an icon.
-    setWindowIcon(QIcon(ToQString(icon_path)));
+    setWindowIcon(QIcon(QFile::decodeName(icon_path.c_str())));
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
     setValue(0);
     setRange(0, 100);

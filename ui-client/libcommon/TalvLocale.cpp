@@ -25,11 +25,26 @@ constexpr int kLanguageCount = int(sizeof(grgszLanguages) / sizeof(grgszLanguage
 
 const QString qstrLanguageFallSafe = QStringLiteral("enu");
 
+// The locale name as the environment gives it ('pt', 'pt_PT.UTF-8', 'C'),
+// without codeset and modifier. QLocale fills in a country first, and a bare
+// 'pt' reads as 'pt_BR' there; it is asked only where no variable is set, as
+// on a desktop that starts programs without them.
+QString SystemLocaleName()
+{
+    // The variables that choose the language of messages, in their precedence.
+    for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        const QString value = QString::fromLocal8Bit(qgetenv(variable));
+        if (!value.isEmpty())
+            return value.section(QLatin1Char('.'), 0, 0).section(QLatin1Char('@'), 0, 0);
+    }
+    return QLocale::system().name();
+}
+
 }  // namespace
 
 QString getDefaultLanguage()
 {
-    const QString qstrLocaleLower = QLocale::system().name().toLower();
+    const QString qstrLocaleLower = SystemLocaleName().toLower();
     TALV_TRACE("%s:%d %s=[%s\n] ", qPrintable(qstrLocaleLower));
     TALV_TRACE("%s:%d %s=[%s] ", qPrintable(qstrLocaleLower));
 

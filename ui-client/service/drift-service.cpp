@@ -11,6 +11,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QSettings>
 #include <QString>
 #include <QVariant>
@@ -18,6 +19,7 @@
 #include "extractor.h"
 #include "file-op.h"
 #include "log.h"
+#include "user_folders.h"
 
 namespace {
 
@@ -78,7 +80,7 @@ QSettings::Status ReadVersionRecord(const ustring& path, VerInfo& info, const ch
         *refused = problem;
     if (problem != nullptr)
         return QSettings::AccessError;
-    QSettings record(QString::fromUtf8(path.c_str_utf8()), QSettings::IniFormat);
+    QSettings record(QFile::decodeName(path.c_str()), QSettings::IniFormat);
     record.beginGroup("Version");
     const struct {
         const char* key;
@@ -271,14 +273,17 @@ void Service::SetTimeout(int value)
     timeout = value;
 }
 
+// Both as bytes, never through QString: a folder name that is not UTF-8
+// would come back as another name.
 ustring Service::GetUserInstallPath()
 {
-    return ToUstring(QDir::homePath());
+    return ustring(HomeFolder().c_str());
 }
 
+// Where the executable really is: two folders above its Contents/MacOS.
 ustring Service::GetRootDriftwellInstallPath()
 {
-    return ToUstring(QDir::cleanPath(QCoreApplication::applicationDirPath() + "/" + "../.."));
+    return ustring(ParentFolder(ExecutablePath(), 3).c_str());
 }
 
 ustring Service::GetRootDriftwellResourceInstallPath()

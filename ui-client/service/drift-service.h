@@ -71,8 +71,9 @@ public:
     // missing or partial copy. 0 when the new copy is in place.
     virtual int PrepareUserEnv();
 
-    // Install locations: absolute UTF-8 paths without a trailing slash,
-    // recomputed on every call (the application object must exist).
+    // Install locations: absolute paths without a trailing slash, recomputed
+    // on every call. Bytes as the file system has them, UTF-8 or not: hand
+    // them to Qt through QFile::decodeName.
     static ustring GetUserInstallPath();
     static ustring GetRootDriftwellInstallPath();
     static ustring GetRootDriftwellResourceInstallPath();

@@ -115,6 +115,10 @@ TEST(UstringTest, NormalizesBothWays)
     EXPECT_STREQ(composed.c_str(), "\xC3\xA9");
     EXPECT_EQ(utf16_of(composed), u"\u00E9");
     EXPECT_EQ(ustring::normalize(composed, ustring::NFD), decomposed);
+    // A file name in Latin-1 is no Unicode text: kept byte for byte.
+    testing::internal::CaptureStderr();
+    EXPECT_STREQ(ustring("Jos\xE9").normalize(ustring::NFC).c_str(), "Jos\xE9");
+    EXPECT_EQ(warnings("u_strFromUTF8"), 0u);
 }
 
 TEST(UstringTest, Utf8EditsDropTheUtf16Cache)

@@ -1,28 +1,110 @@
 // One launcher at a time per bundle and user: many started at once install
-// once, and the lock of a killed launcher does not block the next one.
+// once, wherever the lock can or cannot go, and the lock of a killed launcher
+// does not block the next one.
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
 #include <QProcess>
 
 #include "launcher_testkit.h"
+#include "named_rows.h"
 
 namespace {
 
-TEST(LauncherInstance, TwentyStartedAtOnceInstallExactlyOnce)
+const uid_t kNobody = 65534;
+
+QString Folder(const TestBundle& b)
 {
+    return QDir::cleanPath(b.home() + "/..");
+}
+
+// An empty file of the lock's name (a checksum of the executable and the user
+// id) that another user made and nobody may read, in a folder that everybody
+// may write.
+bool ForeignLock(const TestBundle& b, const QString& folder)
+{
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    hash.addData(QFile::encodeName(b.executable()) + "\n" + QByteArray::number(getuid()));
+    const QByteArray lock = QFile::encodeName(folder) + "/driftwell-launcher-" +
+                            hash.result().toHex().left(16) + ".lock";
+    return QDir().mkpath(folder) && chmod(QFile::encodeName(folder).constData(), 01777) == 0 &&
+           dwtest::WriteFile(lock.toStdString(), "", 0) &&
+           (getuid() != 0 || lchown(lock.constData(), kNobody, kNobody) == 0);
+}
+
+struct CrowdCase : dwtest::Row {
+    std::function<bool(TestBundle&, QProcessEnvironment&)> setup;
+    bool as_user;  // run by a user other than root
+};
+
+const CrowdCase kCrowds[] = {
+    {"default_places", [](TestBundle&, QProcessEnvironment&) { return true; }, false},
+    {"temporary_folder_missing_as_user",
+     [](TestBundle& b, QProcessEnvironment& env) {
+         env.insert("TMPDIR", Folder(b) + "/missing");
+         return true;
+     },
+     true},
+    {"temporary_folder_a_file",
+     [](TestBundle& b, QProcessEnvironment& env) {
+         env.insert("TMPDIR", b.package());
+         return true;
+     },
+     false},
+    {"foreign_lock_in_temporary_folder",
+     [](TestBundle& b, QProcessEnvironment& env) {
+         env.insert("TMPDIR", Folder(b) + "/tmp");
+         return ForeignLock(b, Folder(b) + "/tmp");
+     },
+     false},
+    {"private_runtime_folder",
+     [](TestBundle& b, QProcessEnvironment& env) {
+         env.insert("XDG_RUNTIME_DIR", Folder(b) + "/run");
+         return QDir().mkpath(Folder(b) + "/run") &&
+                chmod(QFile::encodeName(Folder(b) + "/run").constData(), 0700) == 0;
+     },
+     false},
+    {"shared_runtime_folder_with_foreign_lock",
+     [](TestBundle& b, QProcessEnvironment& env) {
+         env.insert("XDG_RUNTIME_DIR", Folder(b) + "/shared");
+         return ForeignLock(b, Folder(b) + "/shared");
+     },
+     false},
+};
+
+class LauncherCrowd : public testing::TestWithParam<CrowdCase> {};
+
+TEST_P(LauncherCrowd, TwentyStartedAtOnceInstallExactlyOnce)
+{
+    const CrowdCase& c = GetParam();
     TestBundle b;
     ASSERT_TRUE(b.ok());
     ASSERT_TRUE(b.setBuild(4, ClientPackage(4, 2)));
+    QProcessEnvironment env = b.environment();
+    ASSERT_TRUE(c.setup(b, env));
+    QString program = b.executable();
+    QStringList args;
+    // Root makes any folder; a user cannot make one in "/".
+    if (c.as_user && getuid() == 0) {
+        ASSERT_EQ(0, QProcess::execute("chown", {"-R", "-h", "65534:65534", Folder(b)}));
+        args = QStringList{"--reuid=65534", "--regid=65534", "--clear-groups", program};
+        program = "setpriv";
+    }
 
     std::vector<std::unique_ptr<QProcess>> launchers;
     for (int i = 0; i < 20; ++i) {
         launchers.emplace_back(new QProcess);
-        launchers.back()->setProcessEnvironment(b.environment());
-        launchers.back()->start(b.executable(), QStringList());
+        launchers.back()->setProcessEnvironment(env);
+        launchers.back()->start(program, args);
     }
     for (auto& p : launchers) {
         ASSERT_TRUE(p->waitForFinished(kRunTimeoutMs)) << qPrintable(p->readAllStandardError());
@@ -34,6 +116,8 @@ TEST(LauncherInstance, TwentyStartedAtOnceInstallExactlyOnce)
     EXPECT_EQ(InfoRecord(4), dwtest::ReadFile(b.userApp() + "/Contents/Resources/INFO"));
     EXPECT_TRUE(b.waitForClientEvent("start 4"));
 }
+
+INSTANTIATE_TEST_SUITE_P(Locks, LauncherCrowd, testing::ValuesIn(kCrowds), dwtest::RowName());
 
 TEST(LauncherInstance, LockOfAKilledLauncherIsTakenOver)
 {

@@ -19,6 +19,7 @@ const LanguageRow kRows[] = {
     {"traditional_chinese", "LC_ALL", "zh_TW.UTF-8", "cht", "Driftwell 已準備就緒。"},
     {"finnish_falls_back", "LANG", "fi_FI.UTF-8", "enu", "Driftwell is ready."},
     {"c_locale", "LC_ALL", "C", "enu", "Driftwell is ready."},
+    {"bare_portuguese_messages", "LC_MESSAGES", "pt", "ptg", "O Driftwell está pronto."},
 };
 
 class LauncherLanguage : public testing::TestWithParam<LanguageRow> {};

@@ -57,9 +57,10 @@ TEST(TalvLocaleTest, DefaultLanguageFollowsSystemLocale)
         const char* locale;
         const char* code;
     } rows[] = {
-        {"zh_TW", "cht"}, {"zh_HK", "cht"}, {"zh_MO", "cht"}, {"zh_CN", "chs"},
-        {"pt_PT", "ptg"}, {"pt_BR", "ptb"}, {"nb_NO", "nor"}, {"nn_NO", "nor"},
-        {"en_GB", "enu"}, {"fi_FI", "enu"}, {"C", "enu"},     {"de_DE", "deu"},
+        {"zh_TW", "cht"}, {"zh_HK", "cht"}, {"zh_MO", "cht"}, {"zh_CN", "chs"}, {"zh", "chs"},
+        {"zh_SG", "chs"}, {"pt_PT", "ptg"}, {"pt_BR", "ptb"}, {"pt", "ptg"},    {"pt_PT.UTF-8@euro", "ptg"},
+        {"nb_NO", "nor"}, {"nn_NO", "nor"}, {"no", "nor"},    {"en_GB", "enu"}, {"fi_FI", "enu"},
+        {"C", "enu"},     {"de_DE", "deu"},
     };
     for (const auto& row : rows)
         EXPECT_EQ(DefaultLanguage("DISABLED_PrintDefaultLanguage", row.locale), row.code) << row.locale;

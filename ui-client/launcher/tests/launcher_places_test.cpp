@@ -1,0 +1,142 @@
+// Wherever the launcher is started from and whatever HOME says, it finds the
+// plug-ins of its own bundle, upgrades the real per-user copy in place and
+// starts the client. Paths that are not UTF-8 are held as Latin-1 in this
+// program, which keeps their bytes through QString.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <functional>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTextCodec>
+
+#include "launcher_testkit.h"
+#include "named_rows.h"
+
+namespace {
+
+const char kLatin1Jose[] = "Jos\xe9";  // not UTF-8
+
+struct Start {
+    QProcessEnvironment env;
+    QString executable;  // where the launcher really is
+    QString program;     // how it is started; the executable when empty
+    QString working_dir;
+};
+
+struct PlaceCase : dwtest::Row {
+    const char* home;  // the home folder's name, bytes
+    std::function<bool(TestBundle&, Start&)> setup;
+    bool needs_root;  // for a password database of its own
+};
+
+QString Folder(const TestBundle& b)
+{
+    return QDir::cleanPath(b.home() + "/..");
+}
+
+QString Script(const TestBundle& b, const QByteArray& body)
+{
+    const QString path = Folder(b) + "/start.sh";
+    return dwtest::WriteFile(path, "#!/bin/sh\n" + body + "\n", 0755) ? path : QString();
+}
+
+// The launcher in a mount namespace of its own, where the password database
+// names the test's home folder as this account's.
+bool AccountHomeIsTestHome(TestBundle& b, Start& s)
+{
+    QByteArray passwd;
+    for (const QByteArray& line : dwtest::ReadFile(QString("/etc/passwd")).split('\n')) {
+        QList<QByteArray> fields = line.split(':');
+        if (fields.size() == 7 && fields[2] == QByteArray::number(getuid()))
+            fields[5] = QFile::encodeName(b.home());
+        passwd += fields.join(':') + '\n';
+    }
+    const QString copy = Folder(b) + "/passwd";
+    s.program = Script(b, "exec unshare --mount sh -c 'mount --bind \"$1\" /etc/passwd && exec \"$2\"' sh '" +
+                              QFile::encodeName(copy) + "' '" + QFile::encodeName(b.executable()) + "'");
+    return dwtest::WriteFile(copy, passwd) && !s.program.isEmpty();
+}
+
+const PlaceCase kCases[] = {
+    {"symlink_in_another_folder", "home",
+     [](TestBundle& b, Start& s) {
+         s.program = Folder(b) + "/bin/driftwell";
+         return QDir().mkpath(Folder(b) + "/bin") && QFile::link(b.executable(), s.program);
+     },
+     false},
+    {"bare_name_in_path", "home",
+     [](TestBundle& b, Start& s) {
+         s.env.insert("PATH", QFileInfo(b.executable()).path() + ":" + s.env.value("PATH"));
+         s.program = Script(b, "exec launcher");
+         return !s.program.isEmpty();
+     },
+     false},
+    {"bundle_under_non_utf8_folder", "home",
+     [](TestBundle& b, Start& s) {
+         const QString folder = Folder(b) + "/" + QFile::decodeName(kLatin1Jose);
+         s.executable = folder + "/Driftwell.app/Contents/MacOS/launcher";
+         s.program = s.executable;
+         return QDir().mkpath(folder) && QDir().rename(b.bundle(), folder + "/Driftwell.app");
+     },
+     false},
+    {"home_unset", "home",
+     [](TestBundle& b, Start& s) {
+         s.env.remove("HOME");
+         return AccountHomeIsTestHome(b, s);
+     },
+     true},
+    {"home_empty", "home",
+     [](TestBundle& b, Start& s) {
+         s.env.insert("HOME", "");
+         return AccountHomeIsTestHome(b, s);
+     },
+     true},
+    {"home_relative", "home",
+     [](TestBundle& b, Start& s) {
+         s.env.insert("HOME", "home");
+         s.working_dir = Folder(b);
+         return true;
+     },
+     false},
+    {"home_non_utf8", kLatin1Jose, [](TestBundle&, Start&) { return true; }, false},
+};
+
+class LauncherPlaces : public testing::TestWithParam<PlaceCase> {
+protected:
+    void SetUp() override { QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1")); }
+    void TearDown() override { QTextCodec::setCodecForLocale(nullptr); }
+};
+
+TEST_P(LauncherPlaces, UpgradesTheRealCopyAndStartsTheClient)
+{
+    const PlaceCase& c = GetParam();
+    if (c.needs_root && getuid() != 0)
+        GTEST_SKIP() << "a password database of its own needs root";
+    TestBundle b(QFile::decodeName(c.home));
+    ASSERT_TRUE(b.ok());
+    // An older copy, as a launcher installed it earlier.
+    for (const dwtest::Entry& e : ClientPackage(1))
+        ASSERT_TRUE(dwtest::WriteFile(b.userApp() + "/" + QFile::decodeName(e.name.c_str()),
+                                      QByteArray::fromStdString(e.data), e.mode < 0 ? 0644 : e.mode));
+    ASSERT_TRUE(b.setBuild(2, ClientPackage(2)));
+    Start s{b.environment(), b.executable(), QString(), QString()};
+    ASSERT_TRUE(c.setup(b, s));
+
+    const RunResult r = b.run(s.env, s.program, s.working_dir);
+    EXPECT_TRUE(r.exited_with_zero) << qPrintable(r.err);
+    EXPECT_EQ(dwtest::TreeOf(ClientPackage(2)), dwtest::Snapshot(b.userApp())) << qPrintable(b.log());
+    EXPECT_TRUE(b.waitForClientEvent("start 2"));
+    // A plain upgrade: nothing met on the way that deserves a word.
+    EXPECT_TRUE(LinesWith(b.log(), "[WARNING]").isEmpty() && LinesWith(b.log(), "[ERROR]").isEmpty())
+        << qPrintable(b.log());
+    const QString plugins = QDir::cleanPath(s.executable + "/../../Frameworks/plugins");
+    EXPECT_TRUE(r.out.startsWith("lib path = '" + QString::fromUtf8(QFile::encodeName(plugins)) + "'\n"))
+        << qPrintable(r.out);
+}
+
+INSTANTIATE_TEST_SUITE_P(Starts, LauncherPlaces, testing::ValuesIn(kCases), dwtest::RowName());
+
+}  // namespace
