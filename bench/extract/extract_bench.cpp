@@ -1,7 +1,8 @@
 // Runs extract_ours, extract_plain and bsdtar on the package in each packing,
 // interleaved, on tmpfs and on the main disk, each extraction in a fresh
-// child process into an emptied folder, and prints medians, ratios and peak
-// memory (ru_maxrss from wait4).
+// child process into an emptied folder, once bound to one CPU and once to two
+// (the first one or two that this process may use, as `taskset -c` would set
+// them), and prints medians, ratios and peak memory (ru_maxrss from wait4).
 //
 // usage: extract_bench DATA_DIR DISK_DIR TMPFS_DIR TMPFS_RUNS DISK_RUNS
 //   DATA_DIR holds extract_gen's output; the archives are copied next to the
@@ -10,12 +11,14 @@
 // A child's ru_maxrss also covers the pages it shared with this process
 // before exec, so this process stays small: no libarchive here, and the
 // generator runs as a program of its own.
+#include <sched.h>
 #include <sys/resource.h>
 #include <sys/statfs.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -33,6 +36,36 @@ namespace {
 const char* const kPackings[] = {"tar", "tar.gz", "tar.zst", "zip"};
 enum Tool { OURS, PLAIN, BSDTAR, TOOLS };
 const char* const kToolNames[] = {"ours", "plain", "bsdtar"};
+
+// The CPU sets the children run on: the first one, then the first two of
+// this process's own (fewer on a one-CPU machine).
+std::vector<cpu_set_t> CpuSettings()
+{
+    std::vector<cpu_set_t> settings;
+    cpu_set_t allowed;
+    CPU_ZERO(&allowed);
+    if (sched_getaffinity(0, sizeof allowed, &allowed) != 0)
+        return settings;
+    cpu_set_t set;
+    CPU_ZERO(&set);
+    for (int cpu = 0; cpu < CPU_SETSIZE && settings.size() < 2; ++cpu) {
+        if (CPU_ISSET(cpu, &allowed)) {
+            CPU_SET(cpu, &set);
+            settings.push_back(set);
+        }
+    }
+    return settings;
+}
+
+std::string CpuList(const cpu_set_t& set)
+{
+    std::string list;
+    for (int cpu = 0; cpu < CPU_SETSIZE; ++cpu) {
+        if (CPU_ISSET(cpu, &set))
+            list += (list.empty() ? "" : ",") + std::to_string(cpu);
+    }
+    return list;
+}
 
 struct Sample {
     double seconds = 0;
@@ -59,7 +92,7 @@ double now()
     return static_cast<double>(ts.tv_sec) + static_cast<double>(ts.tv_nsec) * 1e-9;
 }
 
-Sample run_child(const std::vector<std::string>& args)
+Sample run_child(const std::vector<std::string>& args, const cpu_set_t& cpus)
 {
     std::vector<char*> argv;
     for (const std::string& a : args)
@@ -70,6 +103,8 @@ Sample run_child(const std::vector<std::string>& args)
     const double start = now();
     const pid_t pid = fork();
     if (pid == 0) {
+        if (sched_setaffinity(0, sizeof cpus, &cpus) != 0)
+            _exit(126);
         execvp(argv[0], argv.data());
         _exit(127);
     }
@@ -153,7 +188,7 @@ double mib(double bytes)
 class Bench {
 public:
     Bench(std::string data, std::string bin, TreeStats expected)
-        : data_(std::move(data)), bin_(std::move(bin)), expected_(expected)
+        : data_(std::move(data)), bin_(std::move(bin)), expected_(expected), cpus_(CpuSettings())
     {
     }
 
@@ -169,27 +204,36 @@ public:
         printf("\n%s: %s (%s), %d runs\n", label.c_str(), root.c_str(), fs_type(root).c_str(), runs);
         fflush(stdout);
 
-        bool ok = true;
-        std::map<std::string, std::vector<Sample>> samples[TOOLS];
+        bool ok = !cpus_.empty();
+        if (!ok)
+            fprintf(stderr, "extract_bench: sched_getaffinity failed\n");
+        // [CPU setting][tool][packing]
+        std::vector<std::array<std::map<std::string, std::vector<Sample>>, TOOLS>> samples(cpus_.size());
         // Round 0 warms the caches and checks every tree; it is not counted.
         for (int run = 0; run <= runs && ok; ++run) {
             for (const char* packing : kPackings) {
                 const std::string archive = root + "/package." + packing;
-                for (int k = 0; k < TOOLS; ++k) {
-                    const Tool tool = static_cast<Tool>((k + run) % TOOLS);
-                    clear(dest);
-                    const Sample s = run_child(command(tool, archive, dest));
-                    if (!s.ok) {
-                        fprintf(stderr, "%s failed on %s\n", kToolNames[tool], archive.c_str());
-                        ok = false;
-                    } else if (run == 0 && !(scan(dest) == expected_)) {
-                        const TreeStats got = scan(dest);
-                        fprintf(stderr, "%s on %s: %ld files, %ld folders, %ld links, %lld bytes\n",
-                                kToolNames[tool], packing, got.files, got.folders, got.symlinks, got.bytes);
-                        ok = false;
+                for (size_t c = 0; c < cpus_.size() && ok; ++c) {
+                    const size_t setting = (c + static_cast<size_t>(run)) % cpus_.size();
+                    for (int k = 0; k < TOOLS; ++k) {
+                        const Tool tool = static_cast<Tool>((k + run) % TOOLS);
+                        clear(dest);
+                        const Sample s = run_child(command(tool, archive, dest), cpus_[setting]);
+                        if (!s.ok) {
+                            fprintf(stderr, "%s failed on %s (CPUs %s)\n", kToolNames[tool], archive.c_str(),
+                                    CpuList(cpus_[setting]).c_str());
+                            ok = false;
+                        } else if (run == 0 && !(scan(dest) == expected_)) {
+                            const TreeStats got = scan(dest);
+                            fprintf(stderr,
+                                    "%s on %s (CPUs %s): %ld files, %ld folders, %ld links, %lld bytes\n",
+                                    kToolNames[tool], packing, CpuList(cpus_[setting]).c_str(), got.files,
+                                    got.folders, got.symlinks, got.bytes);
+                            ok = false;
+                        }
+                        if (run > 0)
+                            samples[setting][tool][packing].push_back(s);
                     }
-                    if (run > 0)
-                        samples[tool][packing].push_back(s);
                 }
             }
         }
@@ -197,29 +241,31 @@ public:
         if (!ok)
             return false;
 
-        printf("%-8s %7s %7s %8s  %8s %9s %10s  %8s %9s  %8s %9s %10s\n", "format", "ours s", "plain s",
-               "bsdtar s", "ours/bsd", "plain/bsd", "ours/plain", "ours cpu", "plain cpu", "ours MiB",
-               "plain MiB", "bsdtar MiB");
+        printf("%-8s %-4s %7s %7s %8s  %8s %9s %10s  %8s %9s  %8s %9s %10s\n", "format", "CPUs", "ours s",
+               "plain s", "bsdtar s", "ours/bsd", "plain/bsd", "ours/plain", "ours cpu", "plain cpu",
+               "ours MiB", "plain MiB", "bsdtar MiB");
         for (const char* packing : kPackings) {
-            double wall[TOOLS];
-            double cpu[TOOLS];
-            double rss[TOOLS];
-            for (int tool = 0; tool < TOOLS; ++tool) {
-                std::vector<double> w, c;
-                long peak = 0;
-                for (const Sample& s : samples[tool][packing]) {
-                    w.push_back(s.seconds);
-                    c.push_back(s.cpu_seconds);
-                    peak = std::max(peak, s.maxrss_kib);
+            for (size_t setting = 0; setting < cpus_.size(); ++setting) {
+                double wall[TOOLS];
+                double cpu[TOOLS];
+                double rss[TOOLS];
+                for (int tool = 0; tool < TOOLS; ++tool) {
+                    std::vector<double> w, c;
+                    long peak = 0;
+                    for (const Sample& s : samples[setting][tool][packing]) {
+                        w.push_back(s.seconds);
+                        c.push_back(s.cpu_seconds);
+                        peak = std::max(peak, s.maxrss_kib);
+                    }
+                    wall[tool] = median(w);
+                    cpu[tool] = median(c);
+                    rss[tool] = static_cast<double>(peak) / 1024.0;
                 }
-                wall[tool] = median(w);
-                cpu[tool] = median(c);
-                rss[tool] = static_cast<double>(peak) / 1024.0;
+                printf("%-8s %-4s %7.3f %7.3f %8.3f  %8.2f %9.2f %10.3f  %8.3f %9.3f  %8.1f %9.1f %10.1f\n",
+                       packing, CpuList(cpus_[setting]).c_str(), wall[OURS], wall[PLAIN], wall[BSDTAR],
+                       wall[OURS] / wall[BSDTAR], wall[PLAIN] / wall[BSDTAR], wall[OURS] / wall[PLAIN],
+                       cpu[OURS], cpu[PLAIN], rss[OURS], rss[PLAIN], rss[BSDTAR]);
             }
-            printf("%-8s %7.3f %7.3f %8.3f  %8.2f %9.2f %10.3f  %8.3f %9.3f  %8.1f %9.1f %10.1f\n", packing,
-                   wall[OURS], wall[PLAIN], wall[BSDTAR], wall[OURS] / wall[BSDTAR],
-                   wall[PLAIN] / wall[BSDTAR], wall[OURS] / wall[PLAIN], cpu[OURS], cpu[PLAIN], rss[OURS],
-                   rss[PLAIN], rss[BSDTAR]);
         }
         fflush(stdout);
         return true;
@@ -241,6 +287,7 @@ private:
     std::string data_;
     std::string bin_;
     TreeStats expected_;
+    std::vector<cpu_set_t> cpus_;
 };
 
 bool read_expected(const std::string& path, TreeStats& t)
@@ -273,8 +320,8 @@ int main(int argc, char** argv)
                mib(static_cast<double>(fs::file_size(data + "/package." + packing))));
     rusage self{};
     getrusage(RUSAGE_SELF, &self);
-    printf("\nMedians over the runs (after one unmeasured round): wall and user+system time of each child;\n"
-           "plain = the bare two libarchive passes, bsd = bsdtar.\n"
+    printf("\nMedians over the runs (after one unmeasured round): wall and user+system time of each child,\n"
+           "bound to the CPUs listed; plain = the bare two libarchive passes, bsd = bsdtar.\n"
            "Peak memory is the largest ru_maxrss seen; a child's can not go below this runner's own (%.1f "
            "MiB).\n",
            static_cast<double>(self.ru_maxrss) / 1024.0);

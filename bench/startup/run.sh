@@ -12,7 +12,9 @@
 #    of bench/extract's generator as tar.zst, with the demo client in place of
 #    the generator's drift-ui, against `bsdtar -xf` of the same package into
 #    an empty folder, interleaved. Then PHASE_RUNS more upgrades with the debug
-#    levels on, watched by upgrade_phases: where the time goes.
+#    levels on, watched by upgrade_phases: where the time goes. Both are bound
+#    to one CPU and to two, taking turns (as `taskset -c 0` and `taskset -c
+#    0,1`: the first one or two CPUs this script may use).
 #
 # Works on copies of the bundle (without the demo's debug log levels) and
 # sandbox home folders; stops every process it started. BUILD_DIR picks the
@@ -78,6 +80,11 @@ cmake --build "$build" --target bundle qapp_floor startup_timer upgrade_phases e
   -j"$(nproc 2>/dev/null || echo 2)" >/dev/null
 command -v bsdtar >/dev/null || { echo "bsdtar is missing (Debian package libarchive-tools)" >&2; exit 1; }
 bsdtar=$(command -v bsdtar)
+# The first one and the first two CPUs this script may use.
+mapfile -t cpus < <(sed -n 's/^Cpus_allowed_list:[[:space:]]*//p' /proc/self/status | tr , '\n' |
+  while IFS=- read -r from to; do seq "$from" "${to:-$from}"; done | head -n 2)
+cpu_settings=("${cpus[0]}")
+[ "${#cpus[@]}" -gt 1 ] && cpu_settings+=("${cpus[0]},${cpus[1]}")
 floor=$build/bench/startup/qapp_floor
 timer=$build/bench/startup/startup_timer
 phases=$build/bench/startup/upgrade_phases
@@ -155,11 +162,18 @@ unset DISPLAY
 for place in tmpfs disk; do
   if [ "$place" = tmpfs ]; then sandbox /dev/shm; else sandbox "$build/bench/startup"; fi
   cp "$upgrade_package" "$package"
-  echo "== Whole upgrade with the client running, $place ($(stat -f -c %T "$work")), package $(stat -c %s "$package") bytes: launcher against bsdtar -xf"
+  echo "== Whole upgrade with the client running, $place ($(stat -f -c %T "$work")), package $(stat -c %s "$package") bytes: launcher against bsdtar -xf, NAME@CPUS bound to those CPUs"
   "$launcher" >/dev/null 2>&1 # installs and starts the client
-  "$timer" "$upgrade_runs" \
-    --name upgrade --prepare "bash '$self' --age-installed-copy" -- "$launcher" \; \
-    --name bsdtar --prepare "rm -rf '$work/x' && mkdir '$work/x' && sync" -- "$bsdtar" -xf "$package" -C "$work/x" \;
+  variants=()
+  phase_cpus=()
+  for set in "${cpu_settings[@]}"; do
+    variants+=(--name "upgrade@$set" --vs "bsdtar@$set" --cpus "$set" --prepare "bash '$self' --age-installed-copy"
+      -- "$launcher" \;
+      --name "bsdtar@$set" --cpus "$set" --prepare "rm -rf '$work/x' && mkdir '$work/x' && sync"
+      -- "$bsdtar" -xf "$package" -C "$work/x" \;)
+    phase_cpus+=(--cpus "$set")
+  done
+  "$timer" "$upgrade_runs" "${variants[@]}"
   # The last upgrade must have put the whole package in place and started the client.
   wait_for_client
   [ "$(cd "$work/x" && find . | sort)" = "$(cd "$HOME/.Driftwell/Driftwell.app" && find . | sort)" ] ||
@@ -169,7 +183,8 @@ for place in tmpfs disk; do
   mkdir -p "$work/Driftwell.app/log"
   printf '%s = 7\n' launcher_debug service_debug extractor_debug >"$work/Driftwell.app/log/launcher.debug"
   "$phases" "$phase_runs" "$HOME" \
-    --prepare "bash '$self' --age-installed-copy && rm -f '$HOME/.Driftwell/log/launcher.log'" -- "$launcher"
+    --prepare "bash '$self' --age-installed-copy && rm -f '$HOME/.Driftwell/log/launcher.log'" \
+    "${phase_cpus[@]}" -- "$launcher"
   wait_for_client
   stop_client
   rm -rf "$work"

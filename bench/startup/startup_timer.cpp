@@ -1,16 +1,19 @@
 // startup_timer RUNS VARIANT...
-//   VARIANT: --name NAME [--prepare SHELL-COMMAND] -- PROGRAM ARG... ;
+//   VARIANT: --name NAME [--vs NAME] [--cpus LIST] [--prepare SHELL-COMMAND] -- PROGRAM ARG... ;
 //
 // Times whole processes, from spawn to exit, with the variants interleaved
 // round by round (and their order flipped every round) so that a machine that
 // gets busier or quieter affects all of them alike. A prepare command runs
 // before each timed run of its variant, untimed. Three untimed rounds warm
 // the caches first. The programs' output goes to /dev/null; any exit status
-// other than 0 stops the benchmark.
+// other than 0 stops the benchmark. With --cpus (numbers separated by commas)
+// the program runs bound to those CPUs, as under `taskset -c LIST`.
 //
 // Prints per variant the median, minimum and 90th percentile in milliseconds,
-// then each variant's median over the last variant's.
+// then its median over that of the variant named by --vs (by default the last
+// variant).
 #include <fcntl.h>
+#include <sched.h>
 #include <spawn.h>
 #include <sys/wait.h>
 
@@ -31,7 +34,10 @@ const int kWarmupRounds = 3;
 
 struct Variant {
     std::string name;
+    std::string vs;
     std::string prepare;
+    bool bound = false;
+    cpu_set_t cpus;
     std::vector<char*> argv;
     std::vector<double> ms;
 };
@@ -54,9 +60,18 @@ double TimeOnce(Variant& v)
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_addopen(&actions, 1, "/dev/null", O_WRONLY, 0);
     posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0);
+    // The child inherits this thread's CPUs.
+    cpu_set_t own;
+    if (v.bound &&
+        (sched_getaffinity(0, sizeof own, &own) != 0 || sched_setaffinity(0, sizeof v.cpus, &v.cpus) != 0)) {
+        std::fprintf(stderr, "startup_timer: %s: cannot bind to the CPUs given\n", v.name.c_str());
+        return -1;
+    }
     const double start = NowMs();
     pid_t pid;
     const int error = posix_spawn(&pid, v.argv[0], &actions, nullptr, v.argv.data(), environ);
+    if (v.bound)
+        sched_setaffinity(0, sizeof own, &own);
     posix_spawn_file_actions_destroy(&actions);
     if (error != 0) {
         std::fprintf(stderr, "startup_timer: %s: %s\n", v.argv[0], std::strerror(error));
@@ -80,6 +95,21 @@ double Percentile(std::vector<double> values, double p)
     return values[index];
 }
 
+// "0,1" -> CPUs 0 and 1; false for anything else than numbers and commas.
+bool ParseCpus(const char* list, cpu_set_t& set)
+{
+    CPU_ZERO(&set);
+    for (const char* p = list; *p != '\0';) {
+        char* end;
+        const long cpu = std::strtol(p, &end, 10);
+        if (end == p || cpu < 0 || cpu >= CPU_SETSIZE || (*end != ',' && *end != '\0'))
+            return false;
+        CPU_SET(static_cast<int>(cpu), &set);
+        p = *end == ',' ? end + 1 : end;
+    }
+    return CPU_COUNT(&set) > 0;
+}
+
 bool Parse(int argc, char** argv, std::vector<Variant>& variants)
 {
     for (int i = 2; i < argc;) {
@@ -88,6 +118,16 @@ bool Parse(int argc, char** argv, std::vector<Variant>& variants)
         Variant v;
         v.name = argv[i + 1];
         i += 2;
+        if (i + 1 < argc && std::strcmp(argv[i], "--vs") == 0) {
+            v.vs = argv[i + 1];
+            i += 2;
+        }
+        if (i + 1 < argc && std::strcmp(argv[i], "--cpus") == 0) {
+            if (!ParseCpus(argv[i + 1], v.cpus))
+                return false;
+            v.bound = true;
+            i += 2;
+        }
         if (i + 1 < argc && std::strcmp(argv[i], "--prepare") == 0) {
             v.prepare = argv[i + 1];
             i += 2;
@@ -102,7 +142,15 @@ bool Parse(int argc, char** argv, std::vector<Variant>& variants)
         v.argv.push_back(nullptr);
         variants.push_back(std::move(v));
     }
-    return !variants.empty();
+    if (variants.empty())
+        return false;
+    for (Variant& v : variants) {
+        if (v.vs.empty())
+            v.vs = variants.back().name;
+        if (std::none_of(variants.begin(), variants.end(), [&](const Variant& b) { return b.name == v.vs; }))
+            return false;
+    }
+    return true;
 }
 
 }  // namespace
@@ -112,8 +160,8 @@ int main(int argc, char** argv)
     std::vector<Variant> variants;
     const int runs = argc > 1 ? std::atoi(argv[1]) : 0;
     if (runs < 1 || !Parse(argc, argv, variants)) {
-        std::fprintf(stderr,
-                     "usage: startup_timer RUNS --name NAME [--prepare CMD] -- PROGRAM ARG... ; ...\n");
+        std::fprintf(stderr, "usage: startup_timer RUNS --name NAME [--vs NAME] [--cpus LIST] "
+                             "[--prepare CMD] -- PROGRAM ARG... ; ...\n");
         return 1;
     }
     for (int round = 0; round < kWarmupRounds + runs; ++round) {
@@ -126,12 +174,13 @@ int main(int argc, char** argv)
                 v.ms.push_back(ms);
         }
     }
-    const double base = Percentile(variants.back().ms, 0.5);
     for (const Variant& v : variants) {
         const double median = Percentile(v.ms, 0.5);
-        std::printf("  %-10s median %7.1f ms   min %7.1f   p90 %7.1f   (%d runs)   %.2fx %s\n",
-                    v.name.c_str(), median, Percentile(v.ms, 0), Percentile(v.ms, 0.9), runs, median / base,
-                    variants.back().name.c_str());
+        const auto base = std::find_if(variants.begin(), variants.end(),
+                                       [&](const Variant& b) { return b.name == v.vs; });
+        std::printf("  %-12s median %7.1f ms   min %7.1f   p90 %7.1f   (%d runs)   %.2fx %s\n",
+                    v.name.c_str(), median, Percentile(v.ms, 0), Percentile(v.ms, 0.9), runs,
+                    median / Percentile(base->ms, 0.5), v.vs.c_str());
     }
     return 0;
 }

@@ -1,4 +1,4 @@
-// upgrade_phases RUNS HOME --prepare SHELL-COMMAND -- LAUNCHER
+// upgrade_phases RUNS HOME --prepare SHELL-COMMAND [--cpus LIST]... -- LAUNCHER [ARG...]
 //
 // Where the time of a whole upgrade goes. Runs the launcher RUNS times (the
 // prepare command before each run, untimed; it must leave the debug levels
@@ -6,9 +6,12 @@
 // writes to HOME/.Driftwell/log/launcher.log (the log's own stamps are whole
 // seconds), the rename of the old copy to its backup name and the first entry
 // the extraction creates in the new copy. Prints the median of each phase and
-// of the whole run. Linux only (inotify, pidfd).
+// of the whole run. With --cpus (numbers separated by commas, as for
+// `taskset -c`), the launcher runs bound to those CPUs; several settings take
+// turns run by run and get a column each. Linux only (inotify, pidfd).
 #include <fcntl.h>
 #include <poll.h>
+#include <sched.h>
 #include <spawn.h>
 #include <sys/inotify.h>
 #include <sys/stat.h>
@@ -50,8 +53,8 @@ struct Run {
     double exit_ms = -1;
 };
 
-// One run of the launcher, watched. false on any failure.
-bool WatchOnce(const std::string& home, char** argv, Run& run)
+// One run of the launcher, on cpus when given, watched. false on any failure.
+bool WatchOnce(const std::string& home, char** argv, const cpu_set_t* cpus, Run& run)
 {
     const std::string user = home + "/.Driftwell";
     const std::string log_dir = user + "/log";
@@ -68,9 +71,19 @@ bool WatchOnce(const std::string& home, char** argv, Run& run)
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_addopen(&actions, 1, "/dev/null", O_WRONLY, 0);
     posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0);
+    // The child inherits this thread's CPUs.
+    cpu_set_t own;
+    if (cpus != nullptr &&
+        (sched_getaffinity(0, sizeof own, &own) != 0 || sched_setaffinity(0, sizeof *cpus, cpus) != 0)) {
+        std::fprintf(stderr, "upgrade_phases: cannot bind to the CPUs given\n");
+        close(in);
+        return false;
+    }
     const double start = NowMs();
     pid_t pid;
     const int error = posix_spawn(&pid, argv[0], &actions, nullptr, argv, environ);
+    if (cpus != nullptr)
+        sched_setaffinity(0, sizeof own, &own);
     posix_spawn_file_actions_destroy(&actions);
     if (error != 0) {
         std::fprintf(stderr, "upgrade_phases: %s: %s\n", argv[0], std::strerror(error));
@@ -179,6 +192,21 @@ std::vector<double> Ends(const Run& run)
     return ends;
 }
 
+// "0,1" -> CPUs 0 and 1; false for anything else than numbers and commas.
+bool ParseCpus(const char* list, cpu_set_t& set)
+{
+    CPU_ZERO(&set);
+    for (const char* p = list; *p != '\0';) {
+        char* end;
+        const long cpu = std::strtol(p, &end, 10);
+        if (end == p || cpu < 0 || cpu >= CPU_SETSIZE || (*end != ',' && *end != '\0'))
+            return false;
+        CPU_SET(static_cast<int>(cpu), &set);
+        p = *end == ',' ? end + 1 : end;
+    }
+    return CPU_COUNT(&set) > 0;
+}
+
 double Median(std::vector<double> v)
 {
     std::sort(v.begin(), v.end());
@@ -191,36 +219,66 @@ double Median(std::vector<double> v)
 int main(int argc, char** argv)
 {
     const int runs = argc > 1 ? std::atoi(argv[1]) : 0;
-    if (runs < 1 || argc < 7 || std::strcmp(argv[3], "--prepare") != 0 || std::strcmp(argv[5], "--") != 0) {
-        std::fprintf(stderr, "usage: upgrade_phases RUNS HOME --prepare SHELL-COMMAND -- LAUNCHER\n");
+    struct Setting {
+        std::string name;
+        cpu_set_t cpus;
+        std::vector<std::vector<double>> phases = std::vector<std::vector<double>>(kPhaseCount + 1);
+    };
+    std::vector<Setting> settings;
+    int launcher = 5;
+    for (; launcher + 1 < argc && std::strcmp(argv[launcher], "--cpus") == 0; launcher += 2) {
+        settings.push_back({argv[launcher + 1], {}});
+        if (!ParseCpus(argv[launcher + 1], settings.back().cpus))
+            launcher = argc;
+    }
+    if (runs < 1 || launcher + 1 >= argc || std::strcmp(argv[3], "--prepare") != 0 ||
+        std::strcmp(argv[launcher], "--") != 0) {
+        std::fprintf(
+            stderr, "usage: upgrade_phases RUNS HOME --prepare SHELL-COMMAND [--cpus LIST]... -- LAUNCHER\n");
         return 1;
     }
-    std::vector<std::vector<double>> phases(kPhaseCount + 1);  // the last: the whole run
+    const bool bound = !settings.empty();
+    if (!bound)
+        settings.push_back({"", {}});
     int late = 0;
     for (int i = 0; i < runs; ++i) {
-        Run run;
-        if (std::system(argv[4]) != 0 || !WatchOnce(argv[2], argv + 6, run)) {
-            std::fprintf(stderr, "upgrade_phases: run %d failed\n", i + 1);
-            return 2;
+        for (size_t k = 0; k < settings.size(); ++k) {
+            Setting& setting = settings[(k + static_cast<size_t>(i)) % settings.size()];
+            Run run;
+            if (std::system(argv[4]) != 0 ||
+                !WatchOnce(argv[2], argv + launcher + 1, bound ? &setting.cpus : nullptr, run)) {
+                std::fprintf(stderr, "upgrade_phases: run %d failed\n", i + 1);
+                return 2;
+            }
+            const std::vector<double> ends = Ends(run);
+            if (ends.empty()) {
+                std::fprintf(stderr,
+                             "upgrade_phases: run %d: a step is missing (backup %.1f, first entry %.1f):\n",
+                             i + 1, run.backup_ms, run.first_entry_ms);
+                for (const Line& line : run.lines)
+                    std::fprintf(stderr, "  %8.1f %s\n", line.ms, line.text.c_str());
+                return 2;
+            }
+            for (size_t p = 0; p < kPhaseCount; ++p)
+                setting.phases[p].push_back(ends[p] - (p > 0 ? ends[p - 1] : 0));
+            setting.phases[kPhaseCount].push_back(run.exit_ms);
+            late += run.first_entry_late;
         }
-        const std::vector<double> ends = Ends(run);
-        if (ends.empty()) {
-            std::fprintf(stderr,
-                         "upgrade_phases: run %d: a step is missing (backup %.1f, first entry %.1f):\n",
-                         i + 1, run.backup_ms, run.first_entry_ms);
-            for (const Line& line : run.lines)
-                std::fprintf(stderr, "  %8.1f %s\n", line.ms, line.text.c_str());
-            return 2;
-        }
-        for (size_t k = 0; k < kPhaseCount; ++k)
-            phases[k].push_back(ends[k] - (k > 0 ? ends[k - 1] : 0));
-        phases[kPhaseCount].push_back(run.exit_ms);
-        late += run.first_entry_late;
     }
-    std::printf("  where the time goes, medians of %d runs with the debug levels on (ms):\n", runs);
-    for (size_t k = 0; k < kPhaseCount; ++k)
-        std::printf("    %-20s %7.1f\n", kPhases[k], Median(phases[k]));
-    std::printf("    %-20s %7.1f\n", "launch to exit", Median(phases[kPhaseCount]));
+    std::printf("  where the time goes, medians of %d runs with the debug levels on (ms)%s:\n", runs,
+                bound ? ", by the CPUs it ran on" : "");
+    if (bound) {
+        std::printf("    %-20s", "");
+        for (const Setting& setting : settings)
+            std::printf(" %8s", setting.name.c_str());
+        std::printf("\n");
+    }
+    for (size_t p = 0; p <= kPhaseCount; ++p) {
+        std::printf("    %-20s", p < kPhaseCount ? kPhases[p] : "launch to exit");
+        for (const Setting& setting : settings)
+            std::printf(" %8.1f", Median(setting.phases[p]));
+        std::printf("\n");
+    }
     if (late > 0)
         std::printf("    (first entry seen late in %d runs: counting is an upper bound there)\n", late);
     return 0;

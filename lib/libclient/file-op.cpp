@@ -11,6 +11,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <string>
+#include <vector>
 
 #include "fsref.h"
 #include "fstype.h"
@@ -515,15 +517,126 @@ int FSMKDirP(const ustring& path, const char** end, bool force, unsigned short m
     return result;
 }
 
+namespace {
+
+// Opens a folder for removal; a link in its place is not followed.
+int OpenFolderAt(int at, const char* name)
+{
+    return openat(at, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+}
+
+// The failures of OpenFolderAt that mean something else than a folder is
+// there now (a link, a file): swapped since it was listed.
+bool NotAFolderNow(int err)
+{
+    return err == ELOOP || err == ENOTDIR;
+}
+
+// Removes the entry name of the folder open as at, or for a folder sets child
+// to a descriptor of it to be emptied first. false on failure; an entry gone
+// meanwhile counts as removed.
+bool RemoveOrOpen(int at, const char* name, unsigned char type, int& child)
+{
+    if (type == DT_UNKNOWN) {
+        struct stat st;
+        if (fstatat(at, name, &st, AT_SYMLINK_NOFOLLOW) != 0) {
+            return errno == ENOENT;
+        }
+        type = S_ISDIR(st.st_mode) ? DT_DIR : DT_REG;
+    }
+    // unlink refuses a folder (EISDIR, or EPERM on some systems): one may
+    // have taken the name since it was listed.
+    if (type != DT_DIR) {
+        if (unlinkat(at, name, 0) == 0 || errno == ENOENT) {
+            return true;
+        }
+        if (errno != EISDIR && errno != EPERM) {
+            return false;
+        }
+    }
+    child = OpenFolderAt(at, name);
+    if (child >= 0) {
+        return true;
+    }
+    if (NotAFolderNow(errno)) {
+        return unlinkat(at, name, 0) == 0 || errno == ENOENT;
+    }
+    return errno == ENOENT;
+}
+
+// Empties the folder open as fd (taken over), each entry named relative to
+// its own folder's descriptor: no link is followed, whatever is swapped in
+// meanwhile, and no path is looked up again from the top. One descriptor per
+// level, all closed on return; a tree deeper than the descriptor limit fails.
+// With debug, each entry's status is also asked by its full path, for the
+// lines that call writes; it decides nothing.
+bool EmptyFolder(int fd, const ustring& path, bool debug)
+{
+    struct Level {
+        DIR* dir;
+        std::string name;  // in the folder above
+        ustring path;      // only with debug
+    };
+    std::vector<Level> levels;
+    DIR* top = fdopendir(fd);
+    if (top == nullptr) {
+        close(fd);
+        return false;
+    }
+    levels.push_back({top, std::string(), path});
+    bool ok = true;
+    while (ok && !levels.empty()) {
+        DIR* dir = levels.back().dir;
+        struct dirent* entry = NextEntry(dir);
+        if (entry == nullptr) {
+            // A read error ends the listing too: what is left fails the rmdir.
+            const std::string name = levels.back().name;
+            closedir(dir);
+            levels.pop_back();
+            ok = levels.empty() || unlinkat(dirfd(levels.back().dir), name.c_str(), AT_REMOVEDIR) == 0 ||
+                 errno == ENOENT;
+            continue;
+        }
+        if (IsDotOrDotDot(entry->d_name)) {
+            continue;
+        }
+        ustring full;
+        if (debug) {
+            full = levels.back().path + "/" + entry->d_name;
+            FILE_INFO info;
+            FileStatus(full, info, true);
+        }
+        int child = -1;
+        ok = RemoveOrOpen(dirfd(dir), entry->d_name, entry->d_type, child);
+        if (child < 0) {
+            continue;
+        }
+        DIR* sub = fdopendir(child);
+        if (sub == nullptr) {
+            close(child);
+            ok = false;
+        } else {
+            levels.push_back({sub, entry->d_name, full});
+        }
+    }
+    for (Level& level : levels) {
+        closedir(level.dir);
+    }
+    return ok;
+}
+
+}  // namespace
+
 int FSRemove(const ustring& path, bool /*flag*/)
 {
     if (path.empty()) {
         return kFSRemoveBadPath;
     }
-    // The canonical spelling costs a lookup of the whole path for every entry
-    // of the tree and is used by nothing here but its own debug lines.
+    // The canonical spelling costs a lookup of the whole path and is used by
+    // nothing here but the debug lines.
+    const bool debug = Logger::Writes(Logger::LOG_DEBUG, "file_op_debug");
     FILE_INFO info;
-    if (FileStatus(path, info, Logger::Writes(Logger::LOG_DEBUG, "file_op_debug")) != kFSOk) {
+    if (FileStatus(path, info, debug) != kFSOk) {
         return kFSRemoveBadPath;
     }
     if (!info.exist) {
@@ -533,8 +646,11 @@ int FSRemove(const ustring& path, bool /*flag*/)
     if (info.type != FILE_TYPE_DIR) {
         return remove(path.c_str()) == 0 ? kFSOk : kFSRemoveFailed;
     }
-    WalkResult walk = WalkFolder(path, [&](const char* name) { return FSRemove(path + "/" + name, false); });
-    if (walk != WALK_DONE) {
+    const int fd = OpenFolderAt(AT_FDCWD, path.c_str());
+    if (fd < 0) {
+        return NotAFolderNow(errno) && remove(path.c_str()) == 0 ? kFSOk : kFSRemoveFailed;
+    }
+    if (!EmptyFolder(fd, path, debug)) {
         return kFSRemoveFailed;
     }
     return remove(path.c_str()) == 0 ? kFSOk : kFSRemoveFailed;

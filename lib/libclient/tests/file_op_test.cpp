@@ -364,25 +364,102 @@ TEST_F(FileOpTest, RemoveTreeNeverFollowsLinksAndNamesEachEntrysSpellingOnlyInIt
     Logger::log_level.erase("file_op_debug");
 }
 
-TEST_F(FileOpTest, RemoveReportsFolderThatCannotBeOpened)
+TEST_F(FileOpTest, RemoveNeverFollowsAFolderSwappedForALinkBeforeItIsOpened)
 {
-    // No descriptor left for opendir (at the top, then one level down): a
-    // failure that root cannot bypass.
+    // An entry's debug lines come after it was found to be a folder and before
+    // it is opened: a log stream of our own swaps it for a link right there.
+    WriteFile(P("outside/keep"), "keep");
+    struct Swap {
+        std::string at, moved, target;
+    } swap;
+    cookie_io_functions_t io{};
+    io.write = [](void* cookie, const char* text, size_t size) -> ssize_t {
+        const Swap& s = *static_cast<Swap*>(cookie);
+        if (std::string(text, size).find("org path [" + s.at + "]") != std::string::npos) {
+            EXPECT_TRUE(rename(s.at.c_str(), s.moved.c_str()) == 0 &&
+                        symlink(s.target.c_str(), s.at.c_str()) == 0);
+        }
+        return static_cast<ssize_t>(size);
+    };
+    for (const auto& [entry, moved] : {std::pair{"", "moved-top"}, {"/sub", "moved-sub"}}) {
+        MakeTree(P("tree"));
+        swap = {P("tree") + entry, P(moved), P("outside")};
+        Logger::Initialize(Logger::LOG_TYPE_STDERR, "", "", 2);
+        Logger::log_level["file_op_debug"] = Logger::LOG_DEBUG;
+        FILE* stream = fopencookie(&swap, "w", io);
+        ASSERT_NE(stream, nullptr);
+        Logger::log_fp = stream;
+        EXPECT_EQ(FSRemove(P("tree"), false), kFSOk) << entry;
+        Logger::log_fp = stderr;
+        fclose(stream);
+        EXPECT_FALSE(Exists(P("tree"))) << entry;
+        EXPECT_EQ(ReadFile(P("outside/keep")), "keep") << entry;
+        EXPECT_TRUE(IsDir(swap.moved)) << entry;
+    }
+    Logger::log_level.erase("file_op_debug");
+}
+
+TEST_F(FileOpTest, RemoveWalksTreesDeeperThanAPathAndFailsCleanlyPastTheDescriptorLimit)
+{
+    // 300 levels: a path of 6,300 bytes to the bottom, where a link leads out.
     MakeTree(P("tree"));
+    fs::create_directories(P("outside"));
+    int fd = open(P("tree").c_str(), O_RDONLY | O_DIRECTORY);
+    for (int level = 0; level < 300 && fd >= 0; ++level) {
+        const int parent = fd;
+        fd = mkdirat(parent, "twenty-letters-long", 0755) == 0
+                 ? openat(parent, "twenty-letters-long", O_RDONLY)
+                 : -1;
+        close(parent);
+    }
+    ASSERT_GE(fd, 0);
+    ASSERT_EQ(symlinkat(P("outside").c_str(), fd, "out"), 0);
+    close(fd);
     struct rlimit saved;
     ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &saved), 0);
     const int lowest = dup(0);
     ASSERT_GE(lowest, 0);
     close(lowest);
-    for (int spare : {0, 1}) {
+    // No descriptor for the top, one for the top only, 100 levels' worth, the usual limit.
+    for (int spare : {0, 1, 100, -1}) {
         struct rlimit tight = saved;
-        tight.rlim_cur = static_cast<rlim_t>(lowest + spare);
+        if (spare >= 0)
+            tight.rlim_cur = static_cast<rlim_t>(lowest + spare);
         ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &tight), 0);
         const int result = FSRemove(P("tree"), false);
         ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &saved), 0);
-        EXPECT_EQ(result, kFSRemoveFailed) << "spare descriptors: " << spare;
-        EXPECT_TRUE(IsDir(P("tree/sub/empty"))) << "spare descriptors: " << spare;
+        EXPECT_EQ(result, spare < 0 ? kFSOk : kFSRemoveFailed) << "spare descriptors: " << spare;
+        EXPECT_EQ(IsDir(P("tree/twenty-letters-long")), spare >= 0) << "spare descriptors: " << spare;
     }
+    EXPECT_TRUE(IsDir(P("outside")));
+}
+
+TEST_F(FileOpTest, RemoveStopsAtAFolderItCannotList)
+{
+    MakeTree(P("tree"));
+    WriteFile(P("tree/locked/hidden"), "h");
+    ASSERT_EQ(chmod(P("tree/locked").c_str(), 0300), 0);
+    // Root lists any folder: remove as nobody instead, then as root.
+    const uid_t nobody = 65534;
+    bool owned = lchown(dir.c_str(), nobody, nobody) == 0;
+    for (const auto& entry : fs::recursive_directory_iterator(dir))
+        owned = lchown(entry.path().c_str(), nobody, nobody) == 0 && owned;
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0)
+        _exit(geteuid() == 0 && (setgid(nobody) != 0 || setuid(nobody) != 0) ? 99
+                                                                             : -FSRemove(P("tree"), false));
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == -kFSRemoveFailed) << status;
+    EXPECT_EQ(ReadFile(P("tree/locked/hidden")), "h");
+    if (geteuid() != 0) {
+        chmod(P("tree/locked").c_str(), 0700);
+        GTEST_SKIP() << "removing the unlistable folder anyway needs root";
+    }
+    EXPECT_TRUE(owned);
+    EXPECT_EQ(FSRemove(P("tree"), false), kFSOk);
+    EXPECT_FALSE(Exists(P("tree")));
 }
 
 TEST_F(FileOpTest, ReadFolderListsDotsAndStatusOnlyWhenAsked)
