@@ -157,6 +157,7 @@ void follow_rotation()
 
 struct LevelFileProblem {
     bool malformed = false;
+    ustring refused;       // why Config refused to read it (a FIFO, a device, a huge file)
     ustring not_a_number;  // the last key whose value is not a whole number
     int read_as = 0;       // what get_int made of it
 };
@@ -183,8 +184,8 @@ LevelFileProblem apply_level_file(const ustring& level_path)
     if (level_path.empty())
         return problem;
     Config levels;
-    if (levels.read(level_path) < 0) {
-        problem.malformed = access(level_path.c_str_utf8(), F_OK) == 0;
+    if (levels.read(level_path, &problem.refused) < 0) {
+        problem.malformed = problem.refused.empty() && access(level_path.c_str_utf8(), F_OK) == 0;
         return problem;
     }
     for (const auto& entry : levels.entries) {
@@ -214,6 +215,10 @@ int Logger::Initialize(Type type, const ustring& path, const ustring& level_path
     const int result = open_destination(type, path, rotate_count);
     // Said once the destination is open: thresholds the file meant to set
     // are not in force.
+    if (!problem.refused.empty())
+        LogMsg(kWarning, "default_component",
+               "[WARNING] log(%d): level file '%s' is %s, default levels apply\n", __LINE__,
+               level_path.c_str_utf8(), problem.refused.c_str_utf8());
     if (problem.malformed)
         LogMsg(kWarning, "default_component",
                "[WARNING] log(%d): level file '%s' is malformed, default levels apply\n", __LINE__,

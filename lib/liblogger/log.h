@@ -35,7 +35,8 @@ public:
     // 0 on success, -1 when LOG_TYPE_FILE has an empty or unopenable path (the
     // previous stream stays in use). The level file is applied in every case;
     // a malformed one (left out) and a level that is not a number (read by
-    // get_int, so a typo reads as 0) are said in a warning.
+    // get_int, so a typo reads as 0) are said in a warning, and so is one that
+    // is refused unread (not a regular file, or too large).
     static int Initialize(Type type, const ustring& log_path, const ustring& level_path, int rotate_count);
     static void LogMsg(Level level, const ustring& component, const char* format, ...)
         __attribute__((format(printf, 3, 4)));

@@ -2,9 +2,15 @@
 // says so in the log, exits with 0 and leaves the client that was installed
 // complete and running. Also a package of 100,000 entries, and an upgrade
 // that runs out of disk space.
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sched.h>
+#include <signal.h>
+#include <sys/file.h>
 #include <sys/mount.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <functional>
 #include <iostream>
@@ -31,6 +37,14 @@ bool TruncatedUpgrade(TestBundle& b)
 bool MakeFolder(const QString& path)
 {
     return QFile::remove(path) && QDir().mkpath(path);
+}
+
+// Where a small file should be, one whose reading never ends: a FIFO that
+// nobody writes, or a link to /dev/zero.
+bool MakeEndless(const QString& path, bool fifo)
+{
+    QFile::remove(path);
+    return fifo ? mkfifo(QFile::encodeName(path).constData(), 0600) == 0 : QFile::link("/dev/zero", path);
 }
 
 // Installed client of build 1, stopped, so that the run under test must
@@ -89,6 +103,18 @@ const HostileCase kCases[] = {
          return WriteFile(b.userDir() + "/ui.pid", "\x89PNG\r\n\x1a\npid=1\n") && TruncatedUpgrade(b);
      },
      "ui.pid", nullptr},
+    {"pid_file_fifo", "home",
+     [](TestBundle& b) { return MakeEndless(b.userDir() + "/ui.pid", true) && TruncatedUpgrade(b); },
+     "ui.pid' is unusable: not a regular file", nullptr},
+    {"pid_file_dev_zero", "home",
+     [](TestBundle& b) { return MakeEndless(b.userDir() + "/ui.pid", false) && TruncatedUpgrade(b); },
+     "ui.pid' is unusable: not a regular file", nullptr},
+    {"level_file_fifo", "home",
+     [](TestBundle& b) { return MakeEndless(b.bundle() + "/log/launcher.debug", true); },
+     "launcher.debug' is not a regular file", nullptr},
+    {"level_file_dev_zero", "home",
+     [](TestBundle& b) { return MakeEndless(b.bundle() + "/log/launcher.debug", false); },
+     "launcher.debug' is not a regular file", nullptr},
     {"level_file_junk", "home",
      [](TestBundle& b) {
          return WriteFile(b.bundle() + "/log/launcher.debug", "\x7f"
