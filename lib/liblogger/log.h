@@ -2,8 +2,12 @@
 // A message is written when its level is at most its component's threshold
 // (4 for a component that is not in log_level).
 // Several processes may share one log file: writes and rotations take a lock
-// on the log's folder, and a process whose file another one rotated goes on in
-// the new live file, its size count starting at 0 there.
+// on the log's folder, the live file's real size decides its rotation, and a
+// process whose file another one rotated goes on in the new live file. A
+// process waits for that lock 2 s at most, once: past that it writes without
+// the lock (and does not rotate while another process holds it).
+// The log's name is never followed: a link or a special file there is
+// replaced by the log, with a warning, and what it named is left alone.
 #ifndef DW_LIB_LIBLOGGER_LOG_H
 #define DW_LIB_LIBLOGGER_LOG_H
 
@@ -55,7 +59,7 @@ public:
     static Type log_type;
     static FILE* log_fp;
     static ustring log_path;
-    static int log_size;
+    static int log_size;  // the live file's size as last seen; -1: no log file
     static int rotate_cnt;
     static pthread_mutex_t log_lock;
 

@@ -1,7 +1,7 @@
 // Damaged and hostile input met by the real launcher: whatever it finds, it
 // says so in the log, exits with 0 and leaves the client that was installed
-// complete and running. Also a package of 100,000 entries, and an upgrade
-// that runs out of disk space.
+// complete and running. Also a package of 100,000 entries, an upgrade that
+// runs out of disk space, and one beside a stopped holder of the log's lock.
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sched.h>
@@ -170,6 +170,45 @@ TEST(LauncherLimits, HundredThousandEntriesInstallCompletely)
     EXPECT_TRUE(progress.last().endsWith("): progress 100")) << qPrintable(progress.last());
     EXPECT_TRUE(dwtest::TreeOf(package) == Snapshot(b.userApp())) << "not the package's tree";
     EXPECT_TRUE(b.waitForClientEvent("start 1"));
+}
+
+// A process that took the log folder's lock and stopped holding it: the
+// launcher waits for it once, boundedly, then logs without it; the upgrade
+// completes and the client starts.
+TEST(LauncherLimits, AStuckHolderOfTheLogLockHoldsUpNothing)
+{
+    TestBundle b;
+    ASSERT_TRUE(b.ok());
+    ASSERT_TRUE(b.install(1, ClientPackage(1)));
+    const QByteArray folder = QFile::encodeName(b.userDir() + "/log");
+    struct Holder {
+        pid_t pid = fork();
+        ~Holder()
+        {
+            if (pid > 0 && kill(pid, SIGKILL) == 0)
+                waitpid(pid, nullptr, 0);
+        }
+    } holder;
+    if (holder.pid == 0) {
+        const int fd = open(folder.constData(), O_RDONLY | O_DIRECTORY);
+        if (fd >= 0 && flock(fd, LOCK_EX) == 0)
+            raise(SIGSTOP);
+        _exit(1);
+    }
+    int status = 0;
+    ASSERT_GT(holder.pid, 0);
+    ASSERT_EQ(waitpid(holder.pid, &status, WUNTRACED), holder.pid);
+    ASSERT_TRUE(WIFSTOPPED(status));
+
+    ASSERT_TRUE(b.setBuild(2, ClientPackage(2)));
+    const int offset = b.log().size();
+    const RunResult r = b.run();
+    EXPECT_TRUE(r.exited_with_zero) << qPrintable(r.err);
+    EXPECT_EQ(InfoRecord(2), dwtest::ReadFile(b.userApp() + "/Contents/Resources/INFO"));
+    EXPECT_TRUE(b.waitForClientEvent("start 2"));
+    const QString log = b.log().mid(offset);
+    EXPECT_EQ(1, LinesWith(log, "[WARNING] log(").filter("lock").size()) << qPrintable(log);
+    EXPECT_EQ(1, LinesWith(log, "): progress 100").size()) << qPrintable(log);  // later lines too
 }
 
 // The home folder on a file system of its own, 8 MiB: a tmpfs in a mount
