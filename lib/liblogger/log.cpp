@@ -5,9 +5,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
 #include <climits>
 #include <ctime>
 #include <string>
+#include <thread>
 
 #include "config.h"
 
@@ -18,7 +22,7 @@
 
 namespace {
 
-// Rotation happens once the counted size is strictly greater than this.
+// Rotation happens once the live file is strictly larger than this.
 const int kMaxLogSize = 1048576;
 // Threshold of a component that is not in log_level; no fall-back to
 // "default_component".
@@ -75,19 +79,78 @@ int write_stamped(FILE* fp, const char* format, va_list args)
     return count;
 }
 
+__attribute__((format(printf, 2, 3))) void write_own_line(FILE* fp, const char* format, ...)
+{
+    va_list args;
+    va_start(args, format);
+    write_stamped(fp, format, args);
+    va_end(args);
+}
+
 // log_path as the file calls use it: made absolute when it is set, so that a
 // thread with a working folder of its own (the extractor's) logs to the same
 // file as the others.
 std::string log_file;
 
-void set_log_file(const ustring& path)
+std::string absolute(const ustring& path)
 {
-    log_file = path.c_str_utf8();
-    if (log_file.empty() || log_file[0] == '/')
-        return;
+    std::string file = path.c_str_utf8();
     char cwd[PATH_MAX];
-    if (getcwd(cwd, sizeof cwd) != nullptr)
-        log_file = std::string(cwd) + "/" + log_file;
+    if (!file.empty() && file[0] != '/' && getcwd(cwd, sizeof cwd) != nullptr)
+        file = std::string(cwd) + "/" + file;
+    return file;
+}
+
+// The log's name holds a regular file and nothing else. A link there is never
+// followed, so that no launch appends to, or creates, a file elsewhere;
+// neither is a FIFO or a device opened for writing, which could block or
+// write anywhere. Such a name is removed and the log takes its place: it is in
+// the log's own folder, and what a link named is never touched. A folder
+// there stays, and the log cannot be opened.
+int open_regular(const char* path, int flags)
+{
+    const int fd = open(
+        path, O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC | flags, 0666);
+    struct stat st;
+    if (fd >= 0 && (fstat(fd, &st) != 0 || !S_ISREG(st.st_mode))) {
+        close(fd);
+        return -1;
+    }
+    if (fd >= 0)
+        fcntl(fd, F_SETFL, O_APPEND);  // blocking writes again, as stdio expects
+    return fd;
+}
+
+FILE* open_log_file(const std::string& path)
+{
+    int fd = open_regular(path.c_str(), 0);
+    struct stat st;
+    const bool replaced = fd < 0 && lstat(path.c_str(), &st) == 0 && !S_ISREG(st.st_mode) &&
+                          !S_ISDIR(st.st_mode) && unlink(path.c_str()) == 0;
+    if (replaced)
+        fd = open_regular(path.c_str(), O_EXCL);
+    FILE* fp = fd >= 0 ? fdopen(fd, "a") : nullptr;
+    if (fp == nullptr) {
+        if (fd >= 0)
+            close(fd);
+        return nullptr;
+    }
+    if (replaced)
+        write_own_line(
+            fp,
+            "[WARNING] log(%d): '%s' was a link or a special file; replaced by the log, nothing it "
+            "named was touched\n",
+            __LINE__, path.c_str());
+    return fp;
+}
+
+// The size of the file behind the stream, at most INT_MAX; -1 when unknown.
+int file_size(FILE* fp)
+{
+    struct stat st;
+    if (fstat(fileno(fp), &st) != 0)
+        return -1;
+    return st.st_size > INT_MAX ? INT_MAX : static_cast<int>(st.st_size);
 }
 
 void archive_name(char (&buf)[1024], int k)
@@ -96,7 +159,7 @@ void archive_name(char (&buf)[1024], int k)
 }
 
 // Other processes (a second launcher) append to the same log and rotate it
-// with counts of their own. The log's folder, opened once, is the lock they
+// too. The log's folder, opened once, is the lock they
 // share: a lock file would be one more name beside the archives, and the log
 // file itself changes under rotation. -1 when there is no file to share.
 int log_dir_fd = -1;
@@ -117,12 +180,48 @@ void open_log_dir()
     log_dir_fd = open(dir.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
 }
 
-// Held across a file write, its size accounting and a rotation, so that no
-// other process rotates in between. Without the folder it does nothing: one
-// process alone is served by log_lock.
+// A healthy holder keeps the lock for one line and at most one rotation (a
+// few renames): microseconds, milliseconds on a slow network home. One that
+// keeps it for 2 s is stopped or hung (SIGSTOP, a debugger, a home that no
+// longer answers) and may never let go; 2 s is still short beside the wait
+// for the client. Past it the line is written without the lock rather than
+// lost, and the process waits no more: later lines only try the lock, so a
+// stuck holder costs a launcher 2 s once, not at every line.
+const std::chrono::milliseconds kLockWait(2000);
+bool lock_wait_spent = false;  // under log_lock
+
+// Held across a file write, its size check and a rotation, so that no other
+// process rotates in between. Without the folder, or on a file system that
+// has no such locks, it does nothing: one process alone is served by
+// log_lock.
 class ProcessLock {
 public:
-    explicit ProcessLock(bool wanted) : held_(wanted && log_dir_fd >= 0 && flock(log_dir_fd, LOCK_EX) == 0) {}
+    explicit ProcessLock(bool wanted)
+    {
+        if (!wanted || log_dir_fd < 0)
+            return;
+        if (flock(log_dir_fd, LOCK_EX | LOCK_NB) == 0) {
+            held_ = true;
+            return;
+        }
+        if (errno != EWOULDBLOCK)
+            return;  // no such locks on this file system
+        busy_ = true;
+        if (lock_wait_spent)
+            return;
+        const auto deadline = std::chrono::steady_clock::now() + kLockWait;
+        for (auto pause = std::chrono::microseconds(50); std::chrono::steady_clock::now() < deadline;
+             pause = std::min(pause * 2, std::chrono::microseconds(10000))) {
+            std::this_thread::sleep_for(pause);
+            if (flock(log_dir_fd, LOCK_EX | LOCK_NB) == 0) {
+                held_ = true;
+                busy_ = false;
+                return;
+            }
+        }
+        lock_wait_spent = true;
+        waited_out_ = true;
+    }
     ~ProcessLock()
     {
         if (held_)
@@ -131,32 +230,39 @@ public:
     ProcessLock(const ProcessLock&) = delete;
     ProcessLock& operator=(const ProcessLock&) = delete;
 
+    // Another process holds it: the log is written but not rotated, as that
+    // process may be rotating it.
+    bool busy() const { return busy_; }
+    // This call gave up waiting for it.
+    bool waited_out() const { return waited_out_; }
+
 private:
-    bool held_;
+    bool held_ = false;
+    bool busy_ = false;
+    bool waited_out_ = false;
 };
 
 // When another process has rotated the log since our last write, our stream
-// is an archive now: go on in the live file and count from 0 there, so that
-// our count describes the file that our own rotation would move.
+// is an archive now: go on in the live file.
 void follow_rotation()
 {
     struct stat ours;
     struct stat live;
     if (log_dir_fd < 0 || Logger::log_fp == nullptr || fstat(fileno(Logger::log_fp), &ours) != 0)
         return;
-    if (stat(log_file.c_str(), &live) == 0 && live.st_dev == ours.st_dev && live.st_ino == ours.st_ino)
+    if (lstat(log_file.c_str(), &live) == 0 && live.st_dev == ours.st_dev && live.st_ino == ours.st_ino)
         return;
     // If the live file cannot be opened, the old stream still keeps the lines.
-    FILE* fp = fopen(log_file.c_str(), "a");
+    FILE* fp = open_log_file(log_file);
     if (fp == nullptr)
         return;
     fclose(Logger::log_fp);
     store_fp(fp);
-    Logger::log_size = 0;
 }
 
 struct LevelFileProblem {
     bool malformed = false;
+    ustring refused;       // why Config refused to read it (a FIFO, a device, a huge file)
     ustring not_a_number;  // the last key whose value is not a whole number
     int read_as = 0;       // what get_int made of it
 };
@@ -183,8 +289,8 @@ LevelFileProblem apply_level_file(const ustring& level_path)
     if (level_path.empty())
         return problem;
     Config levels;
-    if (levels.read(level_path) < 0) {
-        problem.malformed = access(level_path.c_str_utf8(), F_OK) == 0;
+    if (levels.read(level_path, &problem.refused) < 0) {
+        problem.malformed = problem.refused.empty() && access(level_path.c_str_utf8(), F_OK) == 0;
         return problem;
     }
     for (const auto& entry : levels.entries) {
@@ -214,6 +320,10 @@ int Logger::Initialize(Type type, const ustring& path, const ustring& level_path
     const int result = open_destination(type, path, rotate_count);
     // Said once the destination is open: thresholds the file meant to set
     // are not in force.
+    if (!problem.refused.empty())
+        LogMsg(kWarning, "default_component",
+               "[WARNING] log(%d): level file '%s' is %s, default levels apply\n", __LINE__,
+               level_path.c_str_utf8(), problem.refused.c_str_utf8());
     if (problem.malformed)
         LogMsg(kWarning, "default_component",
                "[WARNING] log(%d): level file '%s' is malformed, default levels apply\n", __LINE__,
@@ -242,13 +352,14 @@ int Logger::open_destination(Type type, const ustring& path, int rotate_count)
         // On failure the previous stream stays in use, uncounted.
         if (path.empty())
             return -1;
-        FILE* fp = fopen(path.c_str_utf8(), "a");
+        const std::string file = absolute(path);
+        FILE* fp = open_log_file(file);
         if (fp == nullptr)
             return -1;
         store_fp(fp);
-        log_size = 0;
+        log_size = std::max(file_size(fp), 0);
         log_path = path;
-        set_log_file(path);
+        log_file = file;
         rotate_cnt = rotate_count;
         open_log_dir();
         return 0;
@@ -294,6 +405,12 @@ void Logger::LogMsg2(Level level, const ustring& component, const char* format, 
     ProcessLock shared(log_type == LOG_TYPE_FILE);
     if (log_type == LOG_TYPE_FILE)
         follow_rotation();
+    if (shared.waited_out() && log_fp != nullptr)
+        write_own_line(
+            log_fp,
+            "[WARNING] log(%d): another process has held the lock on the folder of '%s' for %d ms; lines go "
+            "on without it\n",
+            __LINE__, log_file.c_str(), static_cast<int>(kLockWait.count()));
     int count = 0;
     switch (log_type) {
     case LOG_TYPE_SYSLOG:
@@ -310,9 +427,13 @@ void Logger::LogMsg2(Level level, const ustring& component, const char* format, 
         break;
     }
 
-    if (log_type == LOG_TYPE_FILE && log_size >= 0 && count >= 0) {
-        log_size += count;
-        if (log_size > kMaxLogSize) {
+    // The live file's real size decides, not what this process wrote: other
+    // processes append to it too. log_size is negative while the file type
+    // writes to a console stream (no log file could be opened).
+    if (log_type == LOG_TYPE_FILE && log_size >= 0 && log_fp != nullptr) {
+        const int size = file_size(log_fp);
+        log_size = size >= 0 ? size : count >= 0 ? log_size + count : log_size;
+        if (log_size > kMaxLogSize && !shared.busy()) {
             // Whatever Rotate returns: on failure log_fp is null and nothing
             // more gets written anyway.
             Rotate();
@@ -344,7 +465,7 @@ int Logger::Rotate()
         store_fp(nullptr);
         return -1;
     }
-    FILE* fp = fopen(log_file.c_str(), "a");
+    FILE* fp = open_log_file(log_file);
     store_fp(fp);
     return fp != nullptr ? 0 : -1;
 }

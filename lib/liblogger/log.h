@@ -2,8 +2,12 @@
 // A message is written when its level is at most its component's threshold
 // (4 for a component that is not in log_level).
 // Several processes may share one log file: writes and rotations take a lock
-// on the log's folder, and a process whose file another one rotated goes on in
-// the new live file, its size count starting at 0 there.
+// on the log's folder, the live file's real size decides its rotation, and a
+// process whose file another one rotated goes on in the new live file. A
+// process waits for that lock 2 s at most, once: past that it writes without
+// the lock (and does not rotate while another process holds it).
+// The log's name is never followed: a link or a special file there is
+// replaced by the log, with a warning, and what it named is left alone.
 #ifndef DW_LIB_LIBLOGGER_LOG_H
 #define DW_LIB_LIBLOGGER_LOG_H
 
@@ -35,7 +39,8 @@ public:
     // 0 on success, -1 when LOG_TYPE_FILE has an empty or unopenable path (the
     // previous stream stays in use). The level file is applied in every case;
     // a malformed one (left out) and a level that is not a number (read by
-    // get_int, so a typo reads as 0) are said in a warning.
+    // get_int, so a typo reads as 0) are said in a warning, and so is one that
+    // is refused unread (not a regular file, or too large).
     static int Initialize(Type type, const ustring& log_path, const ustring& level_path, int rotate_count);
     static void LogMsg(Level level, const ustring& component, const char* format, ...)
         __attribute__((format(printf, 3, 4)));
@@ -54,7 +59,7 @@ public:
     static Type log_type;
     static FILE* log_fp;
     static ustring log_path;
-    static int log_size;
+    static int log_size;  // the live file's size as last seen; -1: no log file
     static int rotate_cnt;
     static pthread_mutex_t log_lock;
 

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
+#include <functional>
 #include <string>
 
 #include "config.h"
@@ -67,6 +70,42 @@ TEST(ConfigRead, MalformedLineEmptiesAlsoEarlierEntriesButNoFileKeepsThem)
     dwtest::WriteFile(dir.file("bad"), "more=4\nkey\n");
     EXPECT_EQ(c.read(dir.file("bad").c_str()), -1);
     EXPECT_TRUE(c.entries.empty());
+}
+
+// What is not a regular file of a few KiB is refused as a missing file is,
+// and without blocking: a FIFO that nobody writes, a link to an endless device.
+TEST(ConfigRead, OnlyASmallRegularFileIsRead)
+{
+    const std::string most = "a=1\n" + std::string(Config::kMaxFileSize - 4, '#');
+    const struct {
+        const char* name;
+        std::function<bool(const std::string&)> make;
+        const char* refused;  // null: read
+    } rows[] = {
+        {"fifo", [](const std::string& p) { return mkfifo(p.c_str(), 0600) == 0; }, "not a regular file"},
+        {"link_to_dev_zero", [](const std::string& p) { return symlink("/dev/zero", p.c_str()) == 0; },
+         "not a regular file"},
+        {"folder", [](const std::string& p) { return mkdir(p.c_str(), 0700) == 0; }, "not a regular file"},
+        {"gibibyte",
+         [](const std::string& p) { return dwtest::WriteFile(p, "") && truncate(p.c_str(), 1 << 30) == 0; },
+         "larger than 65536 bytes"},
+        {"largest_read", [&](const std::string& p) { return dwtest::WriteFile(p, most); }, nullptr},
+    };
+    dwtest::TempDir dir;
+    ASSERT_TRUE(dir.ok());
+    alarm(60);  // a read that blocks ends the test instead of hanging it
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        ASSERT_TRUE(row.make(dir.file(row.name)));
+        Config c;
+        c.entries["kept"] = "1";
+        ustring refused;
+        EXPECT_EQ(c.read(dir.file(row.name).c_str(), &refused), row.refused ? -1 : 0);
+        EXPECT_STREQ(refused.c_str(), row.refused ? row.refused : "");
+        EXPECT_EQ(c.entries.count("a"), row.refused ? 0u : 1u);
+        EXPECT_EQ(c.entries["kept"], "1");
+    }
+    alarm(0);
 }
 
 TEST(ConfigGetInt, ReadsLeadingDecimalIntAndAddsMissingKey)

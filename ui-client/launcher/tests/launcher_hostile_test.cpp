@@ -1,11 +1,15 @@
 // Damaged and hostile input met by the real launcher: whatever it finds, it
 // says so in the log, exits with 0 and leaves the client that was installed
-// complete and running. Also a package of 100,000 entries, and an upgrade
-// that runs out of disk space.
+// complete and running. Also a package of 100,000 entries, an upgrade that
+// runs out of disk space, and one beside a stopped holder of the log's lock.
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sched.h>
+#include <signal.h>
+#include <sys/file.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <functional>
@@ -49,14 +53,19 @@ std::function<bool(TestBundle&)> BrokenClient(const dwtest::Entry& client)
     };
 }
 
-// The bundle's or the per-user version record as a FIFO or a link to
-// /dev/zero: a reader that does not check would wait, or read, for ever.
+// Where a small file should be, one whose reading never ends: a FIFO that
+// nobody writes, or a link to /dev/zero.
+bool MakeEndless(const QString& path, bool fifo)
+{
+    QFile::remove(path);
+    return fifo ? mkfifo(QFile::encodeName(path).constData(), 0600) == 0 : QFile::link("/dev/zero", path);
+}
+
+// The bundle's or the per-user version record made endless.
 std::function<bool(TestBundle&)> SpecialRecord(bool in_bundle, bool fifo)
 {
     return [=](TestBundle& b) {
-        const QByteArray path = QFile::encodeName((in_bundle ? b.bundle() : b.userApp()) +
-                                                  "/Contents/Resources/INFO");
-        return unlink(path) == 0 && (fifo ? mkfifo(path, 0644) : symlink("/dev/zero", path)) == 0;
+        return MakeEndless((in_bundle ? b.bundle() : b.userApp()) + "/Contents/Resources/INFO", fifo);
     };
 }
 
@@ -139,6 +148,18 @@ const HostileCase kCases[] = {
          return WriteFile(b.userDir() + "/ui.pid", "\x89PNG\r\n\x1a\npid=1\n") && TruncatedUpgrade(b);
      },
      "ui.pid", nullptr},
+    {"pid_file_fifo", "home",
+     [](TestBundle& b) { return MakeEndless(b.userDir() + "/ui.pid", true) && TruncatedUpgrade(b); },
+     "ui.pid' is unusable: not a regular file", nullptr},
+    {"pid_file_dev_zero", "home",
+     [](TestBundle& b) { return MakeEndless(b.userDir() + "/ui.pid", false) && TruncatedUpgrade(b); },
+     "ui.pid' is unusable: not a regular file", nullptr},
+    {"level_file_fifo", "home",
+     [](TestBundle& b) { return MakeEndless(b.bundle() + "/log/launcher.debug", true); },
+     "launcher.debug' is not a regular file", nullptr},
+    {"level_file_dev_zero", "home",
+     [](TestBundle& b) { return MakeEndless(b.bundle() + "/log/launcher.debug", false); },
+     "launcher.debug' is not a regular file", nullptr},
     {"level_file_junk", "home",
      [](TestBundle& b) {
          return WriteFile(b.bundle() + "/log/launcher.debug", "\x7f"
@@ -195,6 +216,45 @@ TEST(LauncherLimits, HundredThousandEntriesInstallCompletely)
     EXPECT_TRUE(progress.last().endsWith("): progress 100")) << qPrintable(progress.last());
     EXPECT_TRUE(dwtest::TreeOf(package) == Snapshot(b.userApp())) << "not the package's tree";
     EXPECT_TRUE(b.waitForClientEvent("start 1"));
+}
+
+// A process that took the log folder's lock and stopped holding it: the
+// launcher waits for it once, boundedly, then logs without it; the upgrade
+// completes and the client starts.
+TEST(LauncherLimits, AStuckHolderOfTheLogLockHoldsUpNothing)
+{
+    TestBundle b;
+    ASSERT_TRUE(b.ok());
+    ASSERT_TRUE(b.install(1, ClientPackage(1)));
+    const QByteArray folder = QFile::encodeName(b.userDir() + "/log");
+    struct Holder {
+        pid_t pid = fork();
+        ~Holder()
+        {
+            if (pid > 0 && kill(pid, SIGKILL) == 0)
+                waitpid(pid, nullptr, 0);
+        }
+    } holder;
+    if (holder.pid == 0) {
+        const int fd = open(folder.constData(), O_RDONLY | O_DIRECTORY);
+        if (fd >= 0 && flock(fd, LOCK_EX) == 0)
+            raise(SIGSTOP);
+        _exit(1);
+    }
+    int status = 0;
+    ASSERT_GT(holder.pid, 0);
+    ASSERT_EQ(waitpid(holder.pid, &status, WUNTRACED), holder.pid);
+    ASSERT_TRUE(WIFSTOPPED(status));
+
+    ASSERT_TRUE(b.setBuild(2, ClientPackage(2)));
+    const int offset = b.log().size();
+    const RunResult r = b.run();
+    EXPECT_TRUE(r.exited_with_zero) << qPrintable(r.err);
+    EXPECT_EQ(InfoRecord(2), dwtest::ReadFile(b.userApp() + "/Contents/Resources/INFO"));
+    EXPECT_TRUE(b.waitForClientEvent("start 2"));
+    const QString log = b.log().mid(offset);
+    EXPECT_EQ(1, LinesWith(log, "[WARNING] log(").filter("lock").size()) << qPrintable(log);
+    EXPECT_EQ(1, LinesWith(log, "): progress 100").size()) << qPrintable(log);  // later lines too
 }
 
 // The home folder on a file system of its own, 8 MiB: a tmpfs in a mount

@@ -15,7 +15,8 @@ std::string ClientScript(int build, ClientKind kind)
     const std::string n = std::to_string(build);
     return "#!/bin/sh\n"
            "here=$(cd \"$(dirname \"$0\")/../../..\" && pwd)\n"
-           "echo \"pid=$$\" > \"$here/ui.pid\"\n"
+           // Whole, by a rename: whatever held the name (a FIFO) is replaced.
+           "echo \"pid=$$\" > \"$here/ui.pid.$$\" && mv -f \"$here/ui.pid.$$\" \"$here/ui.pid\"\n"
            "echo \"start " +
            n +
            " $$\" >> \"$here/clients.log\"\n"

@@ -155,9 +155,10 @@ pid_t MacService::ReadPidFile(const ustring& path, ustring* problem)
     ustring why;
     Config pid_file;
     pid_t pid = 0;
-    if (pid_file.read(path) < 0) {
+    if (pid_file.read(path, &why) < 0) {
         // Gone since it was found: the client has just ended, nothing wrong.
-        if (access(path.c_str(), F_OK) == 0)
+        // A FIFO, a device or a huge file is refused unread: `why` says so.
+        if (why.empty() && access(path.c_str(), F_OK) == 0)
             why = access(path.c_str(), R_OK) == 0 ? "not a key-value file" : strerror(errno);
     } else {
         const auto it = pid_file.entries.find("pid");
