@@ -10,7 +10,7 @@ QString SingleInstance::LockPath()
 {
     QCryptographicHash hash(QCryptographicHash::Sha1);
     hash.addData(QCoreApplication::applicationFilePath().toUtf8());
-    hash.addData("\n", 1);
+    hash.addData(QByteArrayLiteral("\n"));
     hash.addData(QByteArray::number(static_cast<qulonglong>(getuid())));
     const QString checksum = QString::fromLatin1(hash.result().toHex().left(16));
     return QDir::tempPath() + QStringLiteral("/driftwell-launcher-") + checksum + QStringLiteral(".lock");
