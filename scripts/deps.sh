@@ -6,12 +6,15 @@
 set -euo pipefail
 PKGS="cmake g++ make pkg-config qtbase5-dev qttools5-dev qttools5-dev-tools libarchive-dev libicu-dev
 zlib1g-dev libgtest-dev libarchive-tools xvfb x11-utils imagemagick clang
-xauth libclang-rt-14-dev e2fsprogs fonts-dejavu-core fonts-wqy-microhei clang-format"
+xauth libclang-rt-14-dev e2fsprogs fonts-dejavu-core fonts-wqy-microhei clang-format
+qt6-base-dev qt6-tools-dev qt6-l10n-tools qt6-tools-dev-tools"
 # xauth: Xvfb's authority files; libclang-rt-14-dev: clang's sanitizer and
 # libFuzzer runtimes; e2fsprogs: the flush-failure test formats a small
 # volume; fonts-dejavu-core: the dialog's Latin and Cyrillic texts;
 # fonts-wqy-microhei: its Chinese, Japanese and Korean texts; clang-format:
-# scripts/test checks the code's style.
+# scripts/test checks the code's style; the qt6 packages: scripts/test builds
+# and tests everything against Qt 6 too (lrelease and lconvert are in
+# qt6-l10n-tools, the platform plug-ins come with Qt Gui).
 missing=""
 for p in $PKGS; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing="$missing $p"

@@ -15,8 +15,8 @@ QString LockName()
 {
     const std::string exe = ExecutablePath();
     QCryptographicHash hash(QCryptographicHash::Sha1);
-    hash.addData(exe.data(), static_cast<int>(exe.size()));
-    hash.addData("\n", 1);
+    hash.addData(QByteArray::fromStdString(exe));
+    hash.addData(QByteArrayLiteral("\n"));
     hash.addData(QByteArray::number(static_cast<qulonglong>(getuid())));
     return QStringLiteral("driftwell-launcher-") + QString::fromLatin1(hash.result().toHex().left(16)) +
            QStringLiteral(".lock");

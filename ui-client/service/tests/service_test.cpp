@@ -52,16 +52,29 @@ bool ChownTree(const std::string& path, uid_t owner)
 // Runs the driver, as another user when uid is not 0.
 class Driver : public QProcess {
 public:
-    explicit Driver(uid_t uid) : uid_(uid) {}
+    explicit Driver(uid_t uid) : uid_(uid)
+    {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+        setChildProcessModifier([this] { BecomeUser(); });
+#endif
+    }
 
 protected:
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     void setupChildProcess() override
+    {
+        BecomeUser();
+    }
+#endif
+
+private:
+    // In the child, between fork and exec.
+    void BecomeUser() const
     {
         if (uid_ != 0 && (setgroups(0, nullptr) != 0 || setgid(uid_) != 0 || setuid(uid_) != 0))
             _exit(126);
     }
 
-private:
     uid_t uid_;
 };
 
