@@ -26,6 +26,8 @@
 #include <string>
 #include <vector>
 
+#include "cpu_list.h"
+
 extern char** environ;
 
 namespace {
@@ -93,21 +95,6 @@ double Percentile(std::vector<double> values, double p)
     std::sort(values.begin(), values.end());
     const size_t index = static_cast<size_t>(p * (values.size() - 1) + 0.5);
     return values[index];
-}
-
-// "0,1" -> CPUs 0 and 1; false for anything else than numbers and commas.
-bool ParseCpus(const char* list, cpu_set_t& set)
-{
-    CPU_ZERO(&set);
-    for (const char* p = list; *p != '\0';) {
-        char* end;
-        const long cpu = std::strtol(p, &end, 10);
-        if (end == p || cpu < 0 || cpu >= CPU_SETSIZE || (*end != ',' && *end != '\0'))
-            return false;
-        CPU_SET(static_cast<int>(cpu), &set);
-        p = *end == ',' ? end + 1 : end;
-    }
-    return CPU_COUNT(&set) > 0;
 }
 
 bool Parse(int argc, char** argv, std::vector<Variant>& variants)

@@ -29,6 +29,8 @@
 #include <utility>
 #include <vector>
 
+#include "cpu_list.h"
+
 extern char** environ;
 
 namespace {
@@ -190,21 +192,6 @@ std::vector<double> Ends(const Run& run)
         if (ends[i] < 0 || (i > 0 && ends[i] < ends[i - 1]))
             return {};
     return ends;
-}
-
-// "0,1" -> CPUs 0 and 1; false for anything else than numbers and commas.
-bool ParseCpus(const char* list, cpu_set_t& set)
-{
-    CPU_ZERO(&set);
-    for (const char* p = list; *p != '\0';) {
-        char* end;
-        const long cpu = std::strtol(p, &end, 10);
-        if (end == p || cpu < 0 || cpu >= CPU_SETSIZE || (*end != ',' && *end != '\0'))
-            return false;
-        CPU_SET(static_cast<int>(cpu), &set);
-        p = *end == ',' ? end + 1 : end;
-    }
-    return CPU_COUNT(&set) > 0;
 }
 
 double Median(std::vector<double> v)
