@@ -1,7 +1,8 @@
 // Fuzzes Extractor::Extract over arbitrary archive bytes. Whatever the input,
 // the result is 0 or -1 and nothing is written outside the destination: the
 // two folders around it keep their listings, and the working directory, a
-// decoy folder beside the destination, keeps its one file unchanged.
+// decoy folder beside the destination, keeps its one file unchanged. Inside
+// it there are only files, folders and links.
 #include "extractor.h"
 #include "fuzz_check.h"
 #include "log.h"
@@ -73,6 +74,20 @@ void remove_tree(const std::string& path)
 void remove_root()
 {
     remove_tree(g_root);
+}
+
+// No device node, FIFO or socket made it into the tree.
+void check_kinds(const std::string& folder)
+{
+    std::error_code ec;
+    for (fs::recursive_directory_iterator it(folder, ec), end; !ec && it != end; it.increment(ec)) {
+        const fs::file_type type = it->symlink_status(ec).type();
+        const bool plain = type == fs::file_type::regular || type == fs::file_type::directory ||
+                           type == fs::file_type::symlink;
+        if (!plain)
+            fprintf(stderr, "%s is a special file\n", it->path().c_str());
+        CHECK(plain);
+    }
 }
 
 // libarchive is not instrumented: libFuzzer sees only our code, which takes
@@ -185,6 +200,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     check_names(g_box, {"dest", "outside", "package"});
     check_names(g_outside, {"decoy"});
     CHECK(dwtest::ReadFile(g_outside + "/decoy") == kDecoy);
+    check_kinds(g_dest);
     remove_tree(g_dest);
     return 0;
 }

@@ -48,14 +48,16 @@ const Packing kPackings[] = {
     {"mtree", ARCHIVE_FORMAT_MTREE, ARCHIVE_FILTER_NONE, nullptr},
 };
 
+// The version record first and a hard link to it: the extractor holds the
+// record back to the end and writes the link as a copy.
 const Entry kEntries[] = {
+    {Entry::File, "Contents/Resources/INFO", "[Version]\nbuild_version=7\n"},
     {Entry::Folder, "Contents", ""},
     {Entry::File, "Contents/drift-ui",
      "\x7f"
      "ELF program"},
-    {Entry::File, "Contents/INFO", "[Version]\nbuild_version=7\n"},
     {Entry::Symlink, "Contents/current", "drift-ui"},
-    {Entry::Hardlink, "Contents/again", "Contents/INFO"},
+    {Entry::Hardlink, "Contents/again", "Contents/Resources/INFO"},
 };
 
 bool write_package(const std::string& path, const Packing& p)

@@ -45,8 +45,9 @@ bool ArchiveWriter::Add(const Entry& e)
     const bool file = e.kind == Entry::File;
     archive_entry* entry = archive_entry_new();
     archive_entry_set_pathname(entry, e.name.c_str());
-    archive_entry_set_filetype(entry, kFileType[e.kind]);
-    archive_entry_set_perm(entry, static_cast<mode_t>(e.mode >= 0               ? e.mode
+    const unsigned type = e.mode >= 0 ? static_cast<unsigned>(e.mode) & AE_IFMT : 0;
+    archive_entry_set_filetype(entry, type != 0 ? type : kFileType[e.kind]);
+    archive_entry_set_perm(entry, static_cast<mode_t>(e.mode >= 0               ? e.mode & 07777
                                                       : e.kind == Entry::Folder ? 0755
                                                                                 : 0644));
     if (mtime_ != 0)

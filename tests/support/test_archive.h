@@ -16,7 +16,8 @@ struct Entry {
     Kind kind;
     std::string name;  // stored exactly as given ("../x", "/abs/x" included)
     std::string data;  // a file's content, or the link's target
-    int mode = -1;     // -1: 0755 for a folder, 0644 for the rest
+    int mode = -1;     // -1: 0755 for a folder, 0644 for the rest; with type bits
+                       // (AE_IFCHR...) a File becomes an entry of that type
 };
 
 // libarchive's format and filter codes, and its writer options

@@ -11,7 +11,12 @@
 // An existing file at an entry's place is replaced, an existing folder kept.
 // Entries written before a failure stay on disk. Any format libarchive reads,
 // but an mtree manifest, which names files of this machine instead of
-// carrying them.
+// carrying them. The package must be a regular file (a FIFO or a device is
+// refused, never read), and it may hold only files, folders and links: a
+// device, FIFO or socket entry fails the extraction. The version record
+// "Contents/Resources/INFO" (however spelled) is held back and written after
+// every other entry, so that a copy cut short never has one; of two records
+// the later wins. A failure does not wait for a count running beside.
 #ifndef DW_UI_CLIENT_EXTRACTOR_EXTRACTOR_H
 #define DW_UI_CLIENT_EXTRACTOR_EXTRACTOR_H
 

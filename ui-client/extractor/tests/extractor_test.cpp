@@ -3,7 +3,14 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QThread>
+#include <QTimer>
 
+#include <archive_entry.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <random>
@@ -113,8 +120,15 @@ protected:
         QEventLoop loop;
         // Queued behind the worker's reports, so every report is in when the loop ends.
         QObject::connect(worker, &QThread::finished, &loop, &QEventLoop::quit, Qt::QueuedConnection);
+        // An extraction that blocks for good fails the run rather than hanging it.
+        QTimer::singleShot(60000, &loop, &QEventLoop::quit);
         worker->start();
         loop.exec();
+        if (!worker->isFinished()) {
+            ADD_FAILURE() << "Extract still runs after a minute: " << archive;
+            fflush(stdout);
+            _exit(1);
+        }
         worker->wait();
         delete worker;
 
@@ -216,8 +230,9 @@ INSTANTIATE_TEST_SUITE_P(Packages, ExtractorWrites, testing::ValuesIn(kWrittenRo
 
 // A compressed package is counted on a thread of its own while the entries
 // are written. The pairs still come in order, one per entry written, those
-// written before the total was known included; a failure is told after them.
-// A package cut short is counted up to the entry it breaks off in.
+// written before the total was known included. A failure does not wait for
+// the count: the pairs still waiting for a total are dropped. A package cut
+// short is counted up to the entry it breaks off in.
 struct CountRow : dwtest::Row {
     int filter;
     bool dotdot;  // a ".." entry second
@@ -225,6 +240,7 @@ struct CountRow : dwtest::Row {
     int written;
     long long cut;  // the package cut to this size; 0: whole
     Lines errors;
+    bool endless = false;  // a tail the count would read for hours
 };
 
 const int kMany = 302;
@@ -242,7 +258,31 @@ const CountRow kCountRows[] = {
      {"[ERROR] extractor(#): archive_read_extract2 failed: 'Path contains '..''"}},
     {"truncated_tar", ARCHIVE_FILTER_NONE, false, 2, 1, 4 << 20, {kExtract2, kCutShort + "tar archive'"}},
     {"truncated_tar_zst", ARCHIVE_FILTER_ZSTD, false, 2, 1, 4 << 20, {kExtract2, kCutShort + "zstd input'"}},
+    {"dotdot_before_an_endless_tail",
+     ARCHIVE_FILTER_ZSTD,
+     true,
+     kMany + 1,
+     1,
+     0,
+     {"[ERROR] extractor(#): archive_read_extract2 failed: 'Path contains '..''"},
+     true},
 };
+
+// Zstd frames of 4 GiB that the decoder skips, holes on disk, between the
+// first 4 MiB of tar and the rest: 4 TiB to read before the count is through.
+std::string WithEndlessTail(const std::string& path, const std::string& head, const std::string& rest)
+{
+    const int fd = open(path.c_str(), O_WRONLY | O_TRUNC | O_CLOEXEC);
+    const off_t kFrame = off_t(1) << 32;
+    const unsigned char skipped[8] = {0x50, 0x2a, 0x4d, 0x18, 0xf8, 0xff, 0xff, 0xff};  // magic, 4 GiB - 8
+    bool ok = fd >= 0 && pwrite(fd, head.data(), head.size(), 0) == static_cast<ssize_t>(head.size());
+    const off_t tail = static_cast<off_t>(head.size());
+    for (off_t i = 0; i < 1024; ++i)
+        ok = ok && pwrite(fd, skipped, sizeof skipped, tail + i * kFrame) == sizeof skipped;
+    ok = ok &&
+         pwrite(fd, rest.data(), rest.size(), tail + 1024 * kFrame) == static_cast<ssize_t>(rest.size());
+    return close(fd) == 0 && ok ? path : "";
+}
 
 class ExtractorCounts : public ExtractorTest, public testing::WithParamInterface<CountRow> {};
 
@@ -259,14 +299,26 @@ TEST_P(ExtractorCounts, CountsBesideTheExtraction)
         entries.push_back({Entry::File, "f" + std::to_string(i), std::to_string(i)});
     if (row.dotdot)
         entries.insert(entries.begin() + 1, {Entry::File, "../outside/a", "x"});
-    const std::string archive = make(entries, kPax, row.filter);
+    std::string archive = make(entries, kPax, row.filter);
     if (row.cut > 0)
         fs::resize_file(archive, static_cast<uintmax_t>(row.cut));
+    if (row.endless) {
+        const std::string tar = dwtest::ReadFile(make(entries));
+        const auto zst = [&](size_t from, size_t size) {
+            return dwtest::ReadFile(make({{Entry::File, "raw", tar.substr(from, size)}}, ARCHIVE_FORMAT_RAW,
+                                         ARCHIVE_FILTER_ZSTD));
+        };
+        archive = WithEndlessTail(archive, zst(0, 4 << 20), zst(4 << 20, std::string::npos));
+        ASSERT_FALSE(archive.empty());
+    }
     const Outcome out = run(archive, dest);
     EXPECT_EQ(out.result, row.errors.empty() ? 0 : -1);
     Pairs progress;
     for (int done = 1; done <= row.written; ++done)
         progress.emplace_back(row.total, done);
+    // After a failure, whether the total came in time is a race.
+    if (!row.errors.empty())
+        progress.resize(std::min(progress.size(), out.progress.size()));
     EXPECT_EQ(out.progress, progress);
     Lines log = {started(archive, dest)};
     log.insert(log.end(), row.errors.begin(), row.errors.end());
@@ -277,6 +329,87 @@ TEST_P(ExtractorCounts, CountsBesideTheExtraction)
 }
 
 INSTANTIATE_TEST_SUITE_P(Packages, ExtractorCounts, testing::ValuesIn(kCountRows), dwtest::RowName());
+
+// The version record is written after every other entry, wherever the
+// package puts it and however it spells its path: a copy cut short never
+// has one. Two records: the later one wins, as it would on disk.
+TEST_F(ExtractorTest, WritesTheVersionRecordLast)
+{
+    std::mt19937 random(7);
+    std::string bulk(1 << 20, '\0');
+    for (char& c : bulk)
+        c = static_cast<char>(random());
+    const std::string info = "[Version]\nbuild_version = 7\n";
+    const std::vector<Entry> first = {{Entry::File, "./Contents/Resources/INFO", info, 0600},
+                                      {Entry::File, "Contents/MacOS/drift-ui", "x", 0755},
+                                      {Entry::File, "Contents/bulk", bulk}};
+    const Tree bundle = {{"Contents", "<dir>"},
+                         {"Contents/Resources", "<dir>"},
+                         {"Contents/Resources/INFO", info},
+                         {"Contents/MacOS", "<dir>"},
+                         {"Contents/MacOS/drift-ui", "x"},
+                         {"Contents/bulk", dwtest::Shown(bulk)}};
+    const struct {
+        const char* name;
+        std::vector<Entry> entries;
+        long long cut;
+        Lines errors;
+        Tree tree;  // when it succeeds
+    } rows[] = {
+        {"record_first", first, 0, {}, bundle},
+        {"record_first_cut_short", first, 512 << 10, {kExtract2, kCutShort + "tar archive'"}, {}},
+        {"two_records",
+         {{Entry::File, "Contents/Resources/INFO", "old", 0600},
+          {Entry::File, "Contents/Resources/INFO.txt", "not the record"},
+          {Entry::File, "/Contents//Resources/./INFO", info, 0600}},
+         0,
+         {},
+         {{"Contents", "<dir>"},
+          {"Contents/Resources", "<dir>"},
+          {"Contents/Resources/INFO", info},
+          {"Contents/Resources/INFO.txt", "not the record"}}},
+        // Written as a copy: the link has no target until the record is there.
+        {"hard_link_to_the_record",
+         {first[0], {Entry::Hardlink, "Contents/copy", "Contents/Resources/INFO"}},
+         0,
+         {},
+         {{"Contents", "<dir>"},
+          {"Contents/Resources", "<dir>"},
+          {"Contents/Resources/INFO", info},
+          {"Contents/copy", info}}},
+        {"record_too_big",
+         {{Entry::File, "Contents/Resources/INFO", std::string((64 << 10) + 1, 'i')}, first[1]},
+         0,
+         {"[ERROR] extractor(#): entry 'Contents/Resources/INFO' is over 65536 bytes, too big for a version "
+          "record"},
+         {}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        fs::remove_all(dest);
+        fs::create_directory(dest);
+        const std::string archive = make(row.entries);
+        if (row.cut > 0)
+            fs::resize_file(archive, static_cast<uintmax_t>(row.cut));
+        const Outcome out = run(archive, dest);
+        Lines log = {started(archive, dest)};
+        log.insert(log.end(), row.errors.begin(), row.errors.end());
+        EXPECT_EQ(out.log, log);
+        const std::string record = dest + "/Contents/Resources/INFO";
+        if (!row.errors.empty()) {
+            EXPECT_EQ(out.result, -1);
+            EXPECT_FALSE(dwtest::Exists(record));
+            continue;
+        }
+        EXPECT_EQ(out.result, 0);
+        EXPECT_EQ(Snapshot(dest), row.tree);
+        EXPECT_EQ(fs::status(record).permissions(), fs::perms(0600));
+        Pairs progress;
+        for (size_t done = 1; done <= row.entries.size(); ++done)
+            progress.emplace_back(static_cast<int>(row.entries.size()), static_cast<int>(done));
+        EXPECT_EQ(out.progress, progress);
+    }
+}
 
 TEST_F(ExtractorTest, FailsBeforeWritingAnything)
 {
@@ -290,7 +423,7 @@ TEST_F(ExtractorTest, FailsBeforeWritingAnything)
     // Compressed, so counted beside the extraction, which finds the same nothing.
     const std::string empty_zst = make({}, kPax, ARCHIVE_FILTER_ZSTD);
     // The first header reads with a warning (a damaged pax record) in both
-    // passes: the count's 0 is told, not the extraction's failed header.
+    // passes: the extraction's failed header is told, the count not waited for.
     std::string pax = dwtest::ReadFile(make({{Entry::File, std::string(150, 'n'), "x"}}));
     pax.replace(512, 3, "999");
     const std::string damaged_zst = make({{Entry::File, "raw", pax}}, ARCHIVE_FORMAT_RAW,
@@ -312,14 +445,16 @@ TEST_F(ExtractorTest, FailsBeforeWritingAnything)
          damaged_zst,
          dest,
          {kInitializing},
-         {started(damaged_zst, dest), failed + "0"}},
+         {started(damaged_zst, dest), "[ERROR] extractor(#): archive_read_next_header failed: 'Ignoring "
+                                      "malformed pax extended attribute'"}},
         // Count's failed open is the only one: Extract does not try again.
         {"missing_archive",
          missing,
          dest,
          {kInitializing},
          {started(missing, dest),
-          "[ERROR] extractor(#): archive_read_open_filename failed: 'Failed to open '" + missing + "''",
+          "[ERROR] extractor(#): archive_read_open_filename failed: 'Failed to open '" + missing +
+              "': No such file or directory'",
           failed + "-1"}},
         {"mtree_manifest",
          mtree,
@@ -343,6 +478,56 @@ TEST_F(ExtractorTest, FailsBeforeWritingAnything)
         EXPECT_EQ(out.log, row.log);
         EXPECT_TRUE(fs::is_directory(fs::symlink_status(dest)));
         EXPECT_TRUE(Snapshot(dest).empty());
+    }
+}
+
+// What is not a regular file, folder or link. As the package it would block
+// the reader or never end; as an entry it has no place in a copy (as root the
+// writer made device nodes). Refused at once, and nothing is written.
+TEST_F(ExtractorTest, RefusesSpecialFiles)
+{
+    const std::string fifo = tmp_.file("fifo.tpk");
+    const std::string zero = tmp_.file("zero.tpk");
+    ASSERT_EQ(mkfifo(fifo.c_str(), 0644), 0);
+    fs::create_symlink("/dev/zero", zero);
+    const std::string failed = "[ERROR] extractor(#): Failed to calculate total file numbers, ret: -1";
+    const auto package = [](const std::string& path) {
+        return "[WARNING] extractor(#): '" + path + "' is not a regular file, refused";
+    };
+    const auto entry = [](const char* name, const char* kind) {
+        return "[WARNING] extractor(#): entry '" + std::string(name) + "' is " + kind +
+               ", refused: a package holds only files, folders and links";
+    };
+    const struct {
+        const char* name;
+        std::string archive;
+        Lines log;
+    } rows[] = {
+        {"fifo_package", fifo, {package(fifo), failed}},
+        {"dev_zero_package", zero, {package(zero), failed}},
+        {"char_device_entry",
+         make({{Entry::File, "c", "", AE_IFCHR | 0644}}),
+         {entry("c", "a character device")}},
+        {"block_device_entry",
+         make({{Entry::File, "b", "", AE_IFBLK | 0644}}),
+         {entry("b", "a block device")}},
+        {"fifo_entry", make({{Entry::File, "p", "", AE_IFIFO | 0644}}), {entry("p", "a FIFO")}},
+        // Only cpio stores a socket.
+        {"socket_entry",
+         make({{Entry::File, "s", "", AE_IFSOCK | 0644}}, ARCHIVE_FORMAT_CPIO_SVR4_NOCRC),
+         {entry("s", "a socket")}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        fs::remove_all(dest);
+        fs::create_directory(dest);
+        const Outcome out = run(row.archive, dest);
+        EXPECT_EQ(out.result, -1);
+        Lines log = {started(row.archive, dest)};
+        log.insert(log.end(), row.log.begin(), row.log.end());
+        EXPECT_EQ(out.log, log);
+        EXPECT_TRUE(out.progress.empty());
+        EXPECT_TRUE(fs::is_empty(dest));
     }
 }
 
