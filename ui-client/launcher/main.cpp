@@ -11,7 +11,10 @@
 #include <QDir>
 #include <QFile>
 #include <QStringList>
+#include <QtGlobal>
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #include <QTextCodec>
+#endif
 #include <QTranslator>
 
 #include "TalvLocale.h"
@@ -31,6 +34,7 @@ namespace {
 // when needed: otherwise Qt reads UTF-8 names as the text they are.
 void KeepPathBytesThroughQt(const std::vector<std::string>& paths)
 {
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     for (const std::string& path : paths) {
         const QByteArray bytes(path.data(), static_cast<int>(path.size()));
         if (QString::fromUtf8(bytes).toUtf8() != bytes) {
@@ -38,6 +42,11 @@ void KeepPathBytesThroughQt(const std::vector<std::string>& paths)
             return;
         }
     }
+#else
+    // Qt 6 names files in UTF-8 only, with no codec to change: such a path
+    // cannot reach Qt intact there.
+    (void)paths;
+#endif
 }
 
 }  // namespace

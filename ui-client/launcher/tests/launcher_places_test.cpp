@@ -6,11 +6,15 @@
 #include <unistd.h>
 
 #include <functional>
+#include <string>
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QtGlobal>
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #include <QTextCodec>
+#endif
 
 #include "launcher_testkit.h"
 #include "named_rows.h"
@@ -106,8 +110,16 @@ const PlaceCase kCases[] = {
 
 class LauncherPlaces : public testing::TestWithParam<PlaceCase> {
 protected:
-    void SetUp() override { QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1")); }
-    void TearDown() override { QTextCodec::setCodecForLocale(nullptr); }
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    void SetUp() override
+    {
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
+    }
+    void TearDown() override
+    {
+        QTextCodec::setCodecForLocale(nullptr);
+    }
+#endif
 };
 
 TEST_P(LauncherPlaces, UpgradesTheRealCopyAndStartsTheClient)
@@ -115,6 +127,8 @@ TEST_P(LauncherPlaces, UpgradesTheRealCopyAndStartsTheClient)
     const PlaceCase& c = GetParam();
     if (c.needs_root && getuid() != 0)
         GTEST_SKIP() << "a password database of its own needs root";
+    if (QT_VERSION >= QT_VERSION_CHECK(6, 0, 0) && std::string(c.name).find("non_utf8") != std::string::npos)
+        GTEST_SKIP() << "Qt 6 names files in UTF-8 only";
     TestBundle b(QFile::decodeName(c.home));
     ASSERT_TRUE(b.ok());
     // An older copy, as a launcher installed it earlier.
