@@ -101,7 +101,7 @@ void WriterPool::write_files()
 
     std::unique_lock<std::mutex> lock(mutex_);
     for (;;) {
-        writer_wake_.wait(lock, [this] { return !queue_.empty() || closed_; });
+        job_wake_.wait(lock, [this] { return !queue_.empty() || closed_; });
         if (queue_.empty())
             break;
         const Jobs::iterator job = queue_.front();
@@ -123,7 +123,7 @@ void WriterPool::write_files()
             lock.lock();
         }
         for (;;) {
-            writer_wake_.wait(lock, [&job] { return !job->chunks.empty() || job->complete; });
+            data_wake_.wait(lock, [&job] { return !job->chunks.empty() || job->complete; });
             if (job->chunks.empty())
                 break;
             Chunk chunk = std::move(job->chunks.front());
@@ -138,7 +138,7 @@ void WriterPool::write_files()
             }
             lock.lock();
             bytes_ -= chunk.bytes.size();
-            reader_wake_.notify_all();
+            reader_wake_.notify_one();
         }
         lock.unlock();
         if (opened && archive_write_finish_entry(disk.get()) != ARCHIVE_OK && ok) {
@@ -150,7 +150,7 @@ void WriterPool::write_files()
         jobs_.erase(job);
         if (ok)
             written_.fetch_add(1, std::memory_order_release);
-        reader_wake_.notify_all();
+        reader_wake_.notify_one();
     }
     lock.unlock();
     // Closing runs the fix-ups this writer deferred, on the paths as given:
@@ -224,7 +224,7 @@ bool WriterPool::end()
     const bool ok = hand_over(lock, true);
     current_->complete = true;
     filling_ = false;
-    writer_wake_.notify_all();
+    data_wake_.notify_one();
     return ok;
 }
 
@@ -240,11 +240,15 @@ bool WriterPool::hand_over(std::unique_lock<std::mutex>& lock, bool wait)
         bytes_ += size;
     }
     chunk_ = Chunk();
+    // One writer is woken, and only one that has a use for it: a wake-up per
+    // small file is a good part of what the threads cost.
     if (!current_->queued) {
         current_->queued = true;
         queue_.push_back(current_);
+        job_wake_.notify_one();
+    } else {
+        data_wake_.notify_one();
     }
-    writer_wake_.notify_all();
     return true;
 }
 
@@ -267,7 +271,8 @@ bool WriterPool::finish()
             filling_ = false;
         }
         closed_ = true;
-        writer_wake_.notify_all();
+        job_wake_.notify_all();
+        data_wake_.notify_all();
     }
     for (pthread_t thread : threads_)
         pthread_join(thread, nullptr);
@@ -284,7 +289,8 @@ void WriterPool::fail(const char* format, ...)
             return;
         failed_ = true;
         reader_wake_.notify_all();
-        writer_wake_.notify_all();
+        job_wake_.notify_all();
+        data_wake_.notify_all();
     }
     va_list args;
     va_start(args, format);

@@ -92,7 +92,10 @@ private:
 
     mutable std::mutex mutex_;
     std::condition_variable reader_wake_;
-    std::condition_variable writer_wake_;
+    std::condition_variable job_wake_;  // a file queued
+    // Data for, or the end of, the file being read: only its writer waits
+    // here, as every file before it is complete.
+    std::condition_variable data_wake_;
     Jobs jobs_;                         // handed out and not yet written, in order
     std::deque<Jobs::iterator> queue_;  // waiting for a writer
     Jobs::iterator current_;            // the one being read, when filling
