@@ -21,14 +21,21 @@
 #include <string>
 #include <system_error>
 
+#include "cpu_count.h"
 #include "log.h"
 #include "notify_adapter.h"
 #include "strtable.h"
 #include "thread_folder.h"
+#include "writer_pool.h"
 
 namespace {
 
 const char kComponent[] = "extractor_debug";
+
+// Writer threads at most. Writing is the kernel creating and filling files;
+// past a few threads they mostly wait for each other on the same folders,
+// and the reading thread, decompressing alone, sets the pace.
+const int kMaxWriters = 4;
 
 // Read granularity of every pass over the package.
 const size_t kBlockSize = 10240;
@@ -511,6 +518,57 @@ private:
     std::string data_;
 };
 
+// Whether the entry goes to a writer thread: a regular file. Everything else
+// changes what later paths lead to (a folder, a link) or needs an earlier
+// entry on disk (a hard link), and is written when no other entry is in
+// flight. So is a name with a ".." component, which the disk writer refuses:
+// then the entries before it are on disk and none after it, as ever.
+bool for_writers(archive_entry* entry, const char* name)
+{
+    if (archive_entry_filetype(entry) != AE_IFREG || archive_entry_hardlink(entry) != nullptr)
+        return false;
+    for (const char* p = name; *p != '\0';) {
+        const size_t length = strcspn(p, "/");
+        if (length == 2 && p[0] == '.' && p[1] == '.')
+            return false;
+        p += length + (p[length] == '/');
+    }
+    return true;
+}
+
+// Reads the current entry's data into the pool; false, logged, when reading
+// fails (the same lines as a failed archive_read_extract2), or when the pool
+// has failed (logged by the writer).
+bool hand_data(archive* reader, WriterPool& pool)
+{
+    for (;;) {
+        const void* block = nullptr;
+        size_t size = 0;
+        la_int64_t offset = 0;
+        const int r = archive_read_data_block(reader, &block, &size, &offset);
+        if (r == ARCHIVE_EOF)
+            return pool.end();
+        if (r != ARCHIVE_OK) {
+            fail("[ERROR] extractor(%d): archive_read_extract2 failed: ''\n", __LINE__);
+            read_failed(reader);
+            return false;
+        }
+        if (!pool.data(block, size, offset))
+            return false;
+    }
+}
+
+// Writer threads beside the reading one: as many as the CPUs this process
+// may use, up to kMaxWriters; none with one CPU, where a thread would only
+// take turns with the reader.
+int writer_threads(int asked)
+{
+    if (asked >= 0)
+        return asked;
+    const int cpus = UsableCpuCount();
+    return cpus > 1 ? std::min(cpus, kMaxWriters) : 0;
+}
+
 // The destination spelled without links. The disk writer removes every
 // symbolic link it meets on an entry's path (UNLINK with SECURE_SYMLINKS);
 // on an absolute path that includes links among the destination's own
@@ -557,6 +615,8 @@ int Extractor::Extract()
     // Made before the destination is entered: a thread inherits its
     // creator's private working folder.
     Tally tally(std::move(counting), beside);
+    // Regular files are written on these threads, while this one reads on.
+    std::optional<WriterPool> pool;
     // A count made before the extraction is known now. One beside it is
     // consulted only at the end: until then the two race, and the extraction
     // meets whatever the count met.
@@ -583,19 +643,42 @@ int Extractor::Extract()
     // each component of a path for links, and the destination's own
     // ancestors then are not among them.
     const ustring root = resolved_root(dest_path);
+    // Started before this thread enters the destination, as the count was;
+    // each writer enters it for itself.
+    if (const int threads = writer_threads(writers)) {
+        pool.emplace(threads, root, kDiskOptions);
+        if (pool->size() == 0)
+            pool.reset();
+    }
     inside.emplace(root.c_str_utf8());
     const ustring prefix = inside->entered() ? ustring("./") : root + "/";
     // A copy counts as complete once its version record is there: wherever
     // the package puts it, it is written last, so that an extraction cut
     // short never leaves a copy that passes for complete.
     HeldRecord record;
-    for (int done = 0;;) {
+    // The pairs go out from this thread, one per entry finished, whichever
+    // thread wrote it: done rises by one each time.
+    int done = 0;
+    int own = 0;  // entries this thread finished
+    const auto report = [&]() {
+        const int finished = own + (pool ? pool->written() : 0);
+        if (finished == done)
+            return true;
+        done = finished;
+        return tally.written(done);
+    };
+    for (;;) {
         archive_entry* entry = nullptr;
         const int r = archive_read_next_header(reader, &entry);
         if (r == ARCHIVE_EOF) {
+            if (pool && !pool->finish())
+                return -1;
+            if (!report())
+                return count_failed(tally.settle());
             if (record && !record.write(writer.get()))
                 return -1;
-            if (record && !tally.written(++done))
+            own += record ? 1 : 0;
+            if (!report())
                 return count_failed(tally.settle());
             const int total = tally.settle();
             if (total <= 0)
@@ -625,12 +708,26 @@ int Extractor::Extract()
                           __LINE__, name, kind);
         if (names_record(name)) {
             // A record held already counts as written: this one replaces it.
-            if (record && !tally.written(++done))
+            own += record ? 1 : 0;
+            if (!report())
                 return count_failed(tally.settle());
             if (!record.take(reader, entry, name, prefix))
                 return -1;
             continue;
         }
+        if (pool && for_writers(entry, name)) {
+            if (!pool->begin(entry, name) || !hand_data(reader, *pool))
+                return -1;
+            if (!report())
+                return count_failed(tally.settle());
+            continue;
+        }
+        // Nothing else is in flight while this entry is written; the pairs
+        // of those before it go out first, as they would in order.
+        if (pool && !pool->drain())
+            return -1;
+        if (!report())
+            return count_failed(tally.settle());
         // The stored name is kept as it is: an absolute name lands below the
         // destination, and the writer refuses a ".." component.
         archive_entry_set_pathname(entry, (prefix + name).c_str_utf8());
@@ -657,7 +754,8 @@ int Extractor::Extract()
                 return fail("[ERROR] extractor(%d): archive_write_finish_entry failed: '%s'\n", __LINE__,
                             error_text(writer.get()));
         }
-        if (!tally.written(++done))
+        ++own;
+        if (!report())
             return count_failed(tally.settle());
     }
 }

@@ -38,6 +38,9 @@ public:
 
     ustring dest_path;
     ustring archive_path;
+    // Threads writing regular files beside the one that reads the package:
+    // -1 as many as the CPUs this process may use (none with one), 0 none.
+    int writers = -1;
 };
 
 #endif

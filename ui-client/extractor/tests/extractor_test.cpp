@@ -14,6 +14,7 @@
 #include <filesystem>
 #include <fstream>
 #include <random>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -45,7 +46,17 @@ struct Outcome {
     Lines log;
     std::vector<fs::path> cwd;  // the process's working folder, seen at each report
     fs::path cwd_after;         // the extracting thread's, once Extract returned
+    long threads_left = 0;      // threads of the process Extract left behind
 };
+
+// The process's threads. One that ends meanwhile (the previous case's worker) is no concern.
+std::set<std::string> Threads()
+{
+    std::set<std::string> threads;
+    for (const auto& task : fs::directory_iterator("/proc/self/task"))
+        threads.insert(task.path().filename());
+    return threads;
+}
 
 // Logger, string table and application object are process-wide: set up once.
 dwtest::TempDir g_log_dir;
@@ -113,8 +124,12 @@ protected:
         Extractor extractor;
         extractor.archive_path = archive.c_str();
         extractor.dest_path = dest_folder.c_str();
+        extractor.writers = writers;
         QThread* worker = QThread::create([&] {
+            const std::set<std::string> before = Threads();
             out.result = extractor.Extract();
+            for (const std::string& thread : Threads())
+                out.threads_left += before.count(thread) == 0;
             out.cwd_after = fs::current_path();
         });
         QEventLoop loop;
@@ -131,6 +146,7 @@ protected:
         }
         worker->wait();
         delete worker;
+        EXPECT_EQ(out.threads_left, 0);
 
         // The new lines, without the "%b %d %H:%M:%S " stamp and with "#" for the source line.
         std::ifstream log(g_log, std::ios::binary);
@@ -155,6 +171,8 @@ protected:
     const std::string outside = tmp_.file("outside");
     const fs::path previous_cwd_ = fs::current_path();
     int archives_ = 0;
+    // The parallel path unless a case asks otherwise, whatever this machine has.
+    int writers = 3;
 };
 
 // One progress report per entry written; a ".." stops the extraction and
@@ -210,20 +228,26 @@ TEST_P(ExtractorWrites, ReportsEachEntryWrittenAndStopsAtADotDot)
 {
     const WrittenRow& row = GetParam();
     const std::string archive = make(row.entries, row.format, row.filter);
-    const Outcome out = run(archive, dest);
-    const size_t written = row.percent.size();
-    EXPECT_EQ(out.result, written < row.entries.size() ? -1 : 0);
-    EXPECT_EQ(out.texts, std::vector<QString>{kInitializing});
-    Pairs progress;
-    for (size_t done = 1; done <= written; ++done)
-        progress.emplace_back(static_cast<int>(row.entries.size()), static_cast<int>(done));
-    EXPECT_EQ(out.progress, progress);
-    EXPECT_EQ(out.percent, row.percent);
-    Lines log = {started(archive, dest)};
-    if (written < row.entries.size())
-        log.push_back("[ERROR] extractor(#): archive_read_extract2 failed: 'Path contains '..''");
-    EXPECT_EQ(out.log, log);
-    EXPECT_EQ(Snapshot(dest), dwtest::TreeOf({row.entries.begin(), row.entries.begin() + written}));
+    for (const int threads : {0, 3}) {
+        SCOPED_TRACE(threads);
+        fs::remove_all(dest);
+        fs::create_directory(dest);
+        writers = threads;
+        const Outcome out = run(archive, dest);
+        const size_t written = row.percent.size();
+        EXPECT_EQ(out.result, written < row.entries.size() ? -1 : 0);
+        EXPECT_EQ(out.texts, std::vector<QString>{kInitializing});
+        Pairs progress;
+        for (size_t done = 1; done <= written; ++done)
+            progress.emplace_back(static_cast<int>(row.entries.size()), static_cast<int>(done));
+        EXPECT_EQ(out.progress, progress);
+        EXPECT_EQ(out.percent, row.percent);
+        Lines log = {started(archive, dest)};
+        if (written < row.entries.size())
+            log.push_back("[ERROR] extractor(#): archive_read_extract2 failed: 'Path contains '..''");
+        EXPECT_EQ(out.log, log);
+        EXPECT_EQ(Snapshot(dest), dwtest::TreeOf({row.entries.begin(), row.entries.begin() + written}));
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Packages, ExtractorWrites, testing::ValuesIn(kWrittenRows), dwtest::RowName());
@@ -580,6 +604,75 @@ TEST_F(ExtractorTest, WritesIntoADestinationThatDoesNotExistYet)
     EXPECT_EQ(out.result, 0);
     EXPECT_EQ(Snapshot(fresh), (Tree{{"dir", "<dir>"}, {"dir/f", "x"}}));
     EXPECT_EQ(out.cwd_after, outside);
+}
+
+// Regular files are written on several threads, with the result of writing
+// the entries one after the other: each row runs on the calling thread alone
+// and with writers, behind enough files to keep the writers busy, so that
+// what follows meets them in flight.
+TEST_F(ExtractorTest, WritesOnSeveralThreadsAsInThePackagesOrder)
+{
+    std::vector<Entry> busy;
+    for (int i = 0; i < 24; ++i)
+        busy.push_back({Entry::File, "busy" + std::to_string(i), std::string(256 << 10, 'b')});
+    const std::string big(2 << 20, 'o');
+    const std::string info = "[Version]\nbuild_version = 7\n";
+    const struct {
+        const char* name;
+        std::vector<Entry> entries;  // behind busy
+        Tree tree;                   // what they leave in the destination
+        std::string error = {};
+    } rows[] = {
+        {"hard_link_to_a_file_in_flight",
+         {{Entry::File, "a", big}, {Entry::Hardlink, "h", "a"}},
+         {{"a", dwtest::Shown(big)}, {"h", dwtest::Shown(big)}}},
+        {"file_through_a_link_just_made",
+         {{Entry::Symlink, "lnk", outside}, {Entry::File, "lnk/file", "x"}},
+         {{"lnk", "<dir>"}, {"lnk/file", "x"}}},
+        {"link_over_a_folder_in_flight",
+         {{Entry::File, "d/f", big}, {Entry::Symlink, "d", outside}},
+         {{"d", "<dir>"}, {"d/f", dwtest::Shown(big)}},
+         "[ERROR] extractor(#): archive_read_extract2 failed: 'Could not unlink'"},
+        {"files_in_a_folder_just_made",
+         {{Entry::Folder, "dir", "", 0700}, {Entry::File, "dir/f", "x"}},
+         {{"dir", "<dir>"}, {"dir/f", "x"}}},
+        {"same_path_twice", {{Entry::File, "same", big}, {Entry::File, "/./same", "new"}}, {{"same", "new"}}},
+        // A writer fails: nothing more is handed out, and the record, first in
+        // the package, is not written.
+        {"file_over_a_full_folder",
+         {{Entry::File, "Contents/Resources/INFO", info}, {Entry::File, "full", "x"}},
+         {},
+         "[ERROR] extractor(#): archive_read_extract2 failed: 'Could not unlink'"},
+    };
+    for (const auto& row : rows) {
+        std::vector<Entry> entries = busy;
+        entries.insert(entries.end(), row.entries.begin(), row.entries.end());
+        const std::string archive = make(entries);
+        for (const int threads : {0, 3}) {
+            SCOPED_TRACE(std::string(row.name) + (threads ? " on writers" : " in order"));
+            fs::remove_all(dest);
+            dwtest::WriteFile(dest + "/full/keep", "kept");
+            writers = threads;
+            const Outcome out = run(archive, dest);
+            EXPECT_EQ(out.result, row.error.empty() ? 0 : -1);
+            Lines log = {started(archive, dest)};
+            if (!row.error.empty())
+                log.push_back(row.error);
+            EXPECT_EQ(out.log, log);
+            // One pair per entry finished, done rising by one, all of them on success.
+            for (size_t i = 0; i < out.progress.size(); ++i)
+                EXPECT_EQ(out.progress[i], std::make_pair(static_cast<int>(entries.size()), int(i + 1)));
+            if (row.error.empty()) {
+                EXPECT_EQ(out.progress.size(), entries.size());
+            }
+            Tree tree = Snapshot(dest);
+            for (const Entry& entry : busy)
+                tree.erase(entry.name);
+            tree.erase("full");
+            tree.erase("full/keep");
+            EXPECT_EQ(tree, row.tree);
+        }
+    }
 }
 
 }  // namespace

@@ -21,11 +21,13 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <climits>
 #include <cstdio>
 #include <cstring>
 #include <random>
+#include <set>
 #include <string>
 #include <thread>
 #include <vector>
@@ -66,14 +68,16 @@ struct Call {
     long n = 0;
     long long us = 0;
     QString func, path, path2;
+    long tid = 0;
 };
 
 bool ParseCall(const QByteArray& line, Call& call)
 {
     const QList<QByteArray> f = line.split('\t');
-    if (f.size() != 5)
+    if (f.size() != 6)
         return false;
-    call = {f[0].toLong(), f[1].toLongLong(), f[2], QString::fromUtf8(f[3]), QString::fromUtf8(f[4])};
+    call = {f[0].toLong(),           f[1].toLongLong(),       f[2],
+            QString::fromUtf8(f[3]), QString::fromUtf8(f[4]), f[5].toLong()};
     return true;
 }
 
@@ -190,6 +194,7 @@ public:
         struct Tally {
             int trials = 0, killed = 0, survived = 0, landed = 0;
         } tally[kPointCount][2];
+        int several = 0;
         for (int t = 0; t < o_.trials; ++t) {
             if (o_.only >= 0 && t != o_.only)
                 continue;
@@ -198,13 +203,14 @@ public:
             const bool by_call = point == 1 || point == 5 || (t + t / kPointCount) % 2 == 0;
             Tally& row = tally[point][by_call ? 0 : 1];
             ++row.trials;
-            bool landed = false;
-            const QString failure = Trial(t, point, by_call, landed);
+            bool landed = false, busy = false;
+            const QString failure = Trial(t, point, by_call, landed, busy);
             if (failure == "not killed")
                 continue;
             ++row.killed;
             row.survived += failure.isEmpty();
             row.landed += landed;
+            several += busy;
         }
         int killed = 0, survived = 0;
         printf("\nkill point  by      trials  killed  survived  landed in the point\n");
@@ -221,6 +227,7 @@ public:
             }
         }
         printf("all         %d killed, %d survived\n", killed, survived);
+        printf("kills in the extraction with several threads among its last 32 calls: %d\n", several);
         return killed > 0 && survived == killed;
     }
 
@@ -377,7 +384,9 @@ private:
     // One trial; an empty text when it survived, "not killed" when the kill
     // never came, else what went wrong. landed: the last call traced (the one
     // the kill prevented or interrupted) or the one before it is of the point.
-    QString Trial(int t, int point, bool by_call, bool& landed)
+    // several: a kill in the extraction with two threads or more among the
+    // last 32 calls of it, the writers busy side by side.
+    QString Trial(int t, int point, bool by_call, bool& landed, bool& several)
     {
         std::mt19937_64 rng(o_.seed * 1000003 + t);
         const bool damaged = point == 3;
@@ -411,14 +420,20 @@ private:
             return Report(what, "not killed");
         PhaseTracker tracker(b.userApp(), damaged);
         Phase last = kStart, before = kStart;
+        std::vector<long> extracting;  // the thread of each call of the extraction
         for (const QByteArray& line : ReadFile(trace).split('\n')) {
             Call call;
             if (ParseCall(line, call)) {
                 before = last;
                 last = tracker.Next(call);
+                if (last == kExtract)
+                    extracting.push_back(call.tid);
             }
         }
         landed = point < 5 && (last == phase || before == phase);
+        const size_t recent = std::min<size_t>(extracting.size(), 32);
+        several = landed && phase == kExtract &&
+                  std::set<long>(extracting.end() - static_cast<long>(recent), extracting.end()).size() > 1;
 
         // What the killed run left, for the log check.
         const QString app = b.userApp();

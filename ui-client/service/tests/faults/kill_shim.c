@@ -2,7 +2,7 @@
 // every file-system call on a path below $DW_FAULT_ROOT (open, mkdir, rename,
 // unlink, remove, rmdir, links; the *at forms too) and every signal it sends
 // (kill, pidfd_send_signal) is numbered from 1 and appended to $DW_FAULT_TRACE as
-//   number <TAB> monotonic microseconds <TAB> call <TAB> path <TAB> second path
+//   number <TAB> monotonic microseconds <TAB> call <TAB> path <TAB> second path <TAB> thread id
 // before it runs. With $DW_FAULT_KILL_AT=k the process raises SIGKILL on
 // itself instead of making call k. Forked children are not counted, and
 // nothing the process starts inherits the shim.
@@ -98,8 +98,9 @@ static void note(const char* call, int dirfd, const char* path, int dirfd2, cons
         struct timespec now;
         clock_gettime(CLOCK_MONOTONIC, &now);
         char line[3 * PATH_MAX];
-        const int len = snprintf(line, sizeof line, "%lu\t%lld\t%s\t%s\t%s\n", n,
-                                 (long long)now.tv_sec * 1000000 + now.tv_nsec / 1000, call, first, second);
+        const int len = snprintf(line, sizeof line, "%lu\t%lld\t%s\t%s\t%s\t%ld\n", n,
+                                 (long long)now.tv_sec * 1000000 + now.tv_nsec / 1000, call, first, second,
+                                 (long)syscall(SYS_gettid));
         if (len > 0 && write(g_trace, line, (size_t)len < sizeof line ? (size_t)len : sizeof line) < 0)
             g_trace = -1;
     }
