@@ -17,6 +17,10 @@
 // "Contents/Resources/INFO" (however spelled) is held back and written after
 // every other entry, so that a copy cut short never has one; of two records
 // the later wins. A failure does not wait for a count running beside.
+// With more than one CPU, regular files are written on writer threads
+// (WriterPool) while the calling thread reads on; any other entry is written
+// when none is in flight, and the result is that of writing in order. Every
+// thread is joined before Extract returns.
 #ifndef DW_UI_CLIENT_EXTRACTOR_EXTRACTOR_H
 #define DW_UI_CLIENT_EXTRACTOR_EXTRACTOR_H
 
