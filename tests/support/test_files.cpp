@@ -106,6 +106,21 @@ Tree TreeOf(const std::vector<Entry>& entries)
     return tree;
 }
 
+std::vector<std::string> LogLines(const std::string& path, long long from)
+{
+    std::vector<std::string> lines;
+    std::ifstream in(path, std::ios::binary);
+    in.seekg(from);
+    for (std::string line; std::getline(in, line);) {
+        std::string text = line.size() > 16 ? line.substr(16) : line;
+        const size_t open = text.find('('), close = text.find("): ");
+        if (open != std::string::npos && close != std::string::npos && open < close)
+            text.replace(open + 1, close - open - 1, "#");
+        lines.push_back(text);
+    }
+    return lines;
+}
+
 bool WaitFor(const std::function<bool()>& done, int timeout_ms)
 {
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(timeout_ms);

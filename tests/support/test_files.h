@@ -53,6 +53,11 @@ std::string Shown(const std::string& data);
 // as Snapshot shows it; a hard link shows what its target holds.
 Tree TreeOf(const std::vector<Entry>& entries);
 
+// The log's lines from byte `from` on, each without its "%b %d %H:%M:%S "
+// stamp and with its source line number shown as "#":
+// "[DEBUG] extractor(#): decompress ...".
+std::vector<std::string> LogLines(const std::string& path, long long from = 0);
+
 // Polls done until it holds or the deadline passes; its last answer.
 bool WaitFor(const std::function<bool()>& done, int timeout_ms = 30000);
 // No such process, or one that ended and waits to be reaped.

@@ -148,16 +148,7 @@ protected:
         delete worker;
         EXPECT_EQ(out.threads_left, 0);
 
-        // The new lines, without the "%b %d %H:%M:%S " stamp and with "#" for the source line.
-        std::ifstream log(g_log, std::ios::binary);
-        log.seekg(log_start);
-        for (std::string line; std::getline(log, line);) {
-            std::string text = line.size() > 16 ? line.substr(16) : line;
-            const size_t open = text.find("] extractor(");
-            if (open != std::string::npos)
-                text.replace(open + 12, text.find(')', open) - open - 12, "#");
-            out.log.push_back(text);
-        }
+        out.log = dwtest::LogLines(g_log, log_start);
         return out;
     }
 
