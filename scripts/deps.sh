@@ -5,7 +5,7 @@
 # those that used to arrive only as a recommendation on a line of their own.
 set -euo pipefail
 PKGS="cmake g++ make pkg-config qtbase5-dev qttools5-dev qttools5-dev-tools libarchive-dev libicu-dev
-zlib1g-dev libgtest-dev libarchive-tools xvfb x11-utils imagemagick clang
+zlib1g-dev libgtest-dev libarchive-tools xvfb x11-utils clang
 xauth libclang-rt-14-dev e2fsprogs fonts-dejavu-core fonts-wqy-microhei clang-format
 qt6-base-dev qt6-tools-dev qt6-l10n-tools qt6-tools-dev-tools"
 # xauth: Xvfb's authority files; libclang-rt-14-dev: clang's sanitizer and

@@ -1,36 +1,28 @@
 // The progress dialog in languages whose scripts need fonts of their own, on
 // a real X server: every character of its label is drawn by the font the
-// dialog uses (its fall-backs included, as Qt renders them) and the label
-// fits the dialog. A screenshot per language is kept for a person to look at.
+// dialog uses (its fall-backs included, as Qt renders them), the label fits
+// the dialog, and a screenshot of the window shows dark text on a light
+// background. The screenshot per language is kept for a person to look at.
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QDir>
 #include <QFontMetrics>
+#include <QImage>
 #include <QLabel>
 #include <QPixmap>
 #include <QProgressDialog>
 #include <QScreen>
+#include <QTest>
 #include <QTranslator>
-#include <QWindow>
 
 #include "launcher.h"
 #include "strtable.h"
-#include "test_files.h"
 #include "x_display.h"
 
 namespace {
 
 const char* const kCodes[] = {"deu", "rus", "jpn", "krn", "cht", "chs"};
-
-void SettleUntil(const std::function<bool()>& done)
-{
-    const auto settled = [&] {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
-        return done();
-    };
-    dwtest::WaitFor(settled, 10000);
-}
 
 class DialogScript : public testing::TestWithParam<const char*> {};
 
@@ -47,8 +39,7 @@ TEST_P(DialogScript, LabelIsCoveredByTheFontAndFitsTheDialog)
         auto* shown = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
         ASSERT_NE(nullptr, shown);
         QProgressDialog& dialog = *shown;
-        SettleUntil([&] { return dialog.windowHandle() && dialog.windowHandle()->isExposed(); });
-        ASSERT_TRUE(dialog.windowHandle()->isExposed());
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog, 10000));
         EXPECT_EQ("Talvane Driftwell", dialog.windowTitle());
         auto* label = dialog.findChild<QLabel*>();
         ASSERT_NE(nullptr, label);
@@ -68,9 +59,16 @@ TEST_P(DialogScript, LabelIsCoveredByTheFontAndFitsTheDialog)
 
         const QString dir = QString(DW_ARTIFACT_DIR);
         ASSERT_TRUE(QDir().mkpath(dir));
-        const QPixmap shot = dialog.screen()->grabWindow(dialog.winId());
+        const QImage shot = dialog.screen()->grabWindow(dialog.winId()).toImage();
         EXPECT_EQ(400, shot.width());
         EXPECT_TRUE(shot.save(dir + "/progress_dialog_" + code + ".png"));
+        int dark = 0;
+        for (int y = 0; y < shot.height(); ++y) {
+            for (int x = 0; x < shot.width(); ++x)
+                dark += qGray(shot.pixel(x, y)) < 96;
+        }
+        EXPECT_GT(dark, 100) << "no text";
+        EXPECT_GT(shot.width() * shot.height() - dark, 100) << "no background";
     }
     QCoreApplication::removeTranslator(&translator);
 }
