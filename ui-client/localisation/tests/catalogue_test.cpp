@@ -1,12 +1,14 @@
-// Every compiled catalogue, read back through the resource collection the
-// launcher loads: exactly the table's English texts, each with a translation
-// that keeps the text's markers. LoadStr would hide a missing message behind
-// the English fall-back, so the translator is asked directly and the
-// catalogue's sources are listed by lconvert.
+// The string table, and every compiled catalogue read back through the
+// resource collection the launcher loads: exactly the table's English texts,
+// each with a translation that keeps the text's markers. LoadStr would hide a
+// missing message behind the English fall-back, so the translator is asked
+// directly and the catalogue's sources are listed by lconvert.
 #include "strtable.h"
 #include "texts_app_environment.h"
 
 #include <gtest/gtest.h>
+
+#include <utility>
 
 #include <QCoreApplication>
 #include <QFile>
@@ -276,5 +278,77 @@ INSTANTIATE_TEST_SUITE_P(Languages, Catalogue, testing::ValuesIn(kLanguages),
                          [](const testing::TestParamInfo<Language>& info) {
                              return std::string(info.param.code);
                          });
+
+TEST(StrTable, EnglishWithoutTranslatorAndEmptyOutsideTheTable)
+{
+    EXPECT_EQ(StrTable::LoadStr(16), "Driftwell is ready.");
+    EXPECT_EQ(StrTable::LoadStr(54), "Driftwell is initializing...");
+    EXPECT_EQ(StrTable::LoadStr(453), "Driftwell Backup");
+    EXPECT_TRUE(StrTable::LoadStr(-1).isEmpty());
+    EXPECT_TRUE(StrTable::LoadStr(600).isEmpty());
+}
+
+// The English table's shape: how many texts its rows share, and how many rows
+// carry each kind of marker.
+TEST(StrTable, EnglishTableHasItsShape)
+{
+    const QMap<QString, QList<int>> table = TableTexts();
+    int shared = 0, args = 0, accelerators = 0, markup = 0, styles = 0;
+    for (auto it = table.begin(); it != table.end(); ++it) {
+        const QString& text = it.key();
+        const int rows = it.value().size();
+        shared += rows > 1;
+        args += text.contains(QLatin1String("%1")) ? rows : 0;
+        accelerators += QString(text).remove(QStringLiteral("&&")).contains('&') ? rows : 0;
+        markup += text.contains(QRegularExpression(QStringLiteral("\\[[A-Za-z_]+\\]"))) ? rows : 0;
+        styles += text.startsWith(QLatin1String("{\\")) ? rows : 0;
+    }
+    EXPECT_EQ(72, shared);
+    EXPECT_EQ(3, table.value("Cancel").size());
+    EXPECT_EQ(28, args);
+    EXPECT_EQ(20, accelerators);
+    EXPECT_EQ(36, markup);
+    EXPECT_EQ(7, styles);
+}
+
+// Answers only what LoadStr must ask for: context "global", the English text
+// (never the key), no disambiguation, n = -1.
+class EscapesTranslator : public QTranslator {
+public:
+    QString translate(const char* context, const char* sourceText, const char* disambiguation,
+                      int n) const override
+    {
+        if (qstrcmp(context, "global") == 0 && qstrcmp(sourceText, "Driftwell is ready.") == 0 &&
+            !disambiguation && n == -1)
+            return QStringLiteral("a\\nb\\tc\\N\\T\nd\\\\ne");
+        return QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+TEST(StrTable, BackslashSequencesBecomeNewlineAndTab)
+{
+    EscapesTranslator translator;
+    ScopedTranslator installed(&translator);
+    // Upper-case sequences and real line breaks stay; of a doubled backslash
+    // before n, the second one and the n become the newline.
+    EXPECT_EQ(StrTable::LoadStr(16), "a\nb\tc\\N\\T\nd\\\ne");
+}
+
+TEST(StrTable, LookupStrIDIgnoresCaseButNotBlanks)
+{
+    const std::pair<const char*, int> rows[] = {
+        {"app_name", 453},
+        {"APP_NAME", 453},
+        {"Desc_Dwel_Env_Preparing", 54},
+        {"wizard_ssl_change_sync_folder_warning", 0},
+        {"btn_settings", 599},
+        {"no_such_key", -1},
+        {"app_name ", -1},
+        {"", -1},
+    };
+    for (const auto& [key, id] : rows)
+        EXPECT_EQ(StrTable::LookupStrID(QString::fromLatin1(key)), id) << "'" << key << "'";
+}
 
 }  // namespace
