@@ -2,13 +2,8 @@
 // once, wherever the lock can or cannot go, and the lock of a killed launcher
 // does not block the next one.
 #include <gtest/gtest.h>
-#include <signal.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include <functional>
-#include <memory>
-#include <vector>
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -28,57 +23,31 @@ QString Folder(const TestBundle& b)
 }
 
 // An empty file of the lock's name (a checksum of the executable and the user
-// id) that another user made and nobody may read, in a folder that everybody
-// may write.
+// id) that another user made and nobody may read.
 bool ForeignLock(const TestBundle& b, const QString& folder)
 {
     QCryptographicHash hash(QCryptographicHash::Sha1);
     hash.addData(QFile::encodeName(b.executable()) + "\n" + QByteArray::number(getuid()));
     const QByteArray lock = QFile::encodeName(folder) + "/driftwell-launcher-" +
                             hash.result().toHex().left(16) + ".lock";
-    return QDir().mkpath(folder) && chmod(QFile::encodeName(folder).constData(), 01777) == 0 &&
-           dwtest::WriteFile(lock.toStdString(), "", 0) &&
+    return dwtest::WriteFile(lock.toStdString(), "", 0) &&
            (getuid() != 0 || lchown(lock.constData(), kNobody, kNobody) == 0);
 }
 
 struct CrowdCase : dwtest::Row {
-    std::function<bool(TestBundle&, QProcessEnvironment&)> setup;
-    bool as_user;  // run by a user other than root
+    const char* variable;  // set to a place in the test's folder, if any
+    const char* place;     // that place's name; "": the package file
+    int mode;              // of the folder made there (01777: with a foreign lock), 0: none
+    bool as_user;          // run by a user other than root
 };
 
 const CrowdCase kCrowds[] = {
-    {"default_places", [](TestBundle&, QProcessEnvironment&) { return true; }, false},
-    {"temporary_folder_missing_as_user",
-     [](TestBundle& b, QProcessEnvironment& env) {
-         env.insert("TMPDIR", Folder(b) + "/missing");
-         return true;
-     },
-     true},
-    {"temporary_folder_a_file",
-     [](TestBundle& b, QProcessEnvironment& env) {
-         env.insert("TMPDIR", b.package());
-         return true;
-     },
-     false},
-    {"foreign_lock_in_temporary_folder",
-     [](TestBundle& b, QProcessEnvironment& env) {
-         env.insert("TMPDIR", Folder(b) + "/tmp");
-         return ForeignLock(b, Folder(b) + "/tmp");
-     },
-     false},
-    {"private_runtime_folder",
-     [](TestBundle& b, QProcessEnvironment& env) {
-         env.insert("XDG_RUNTIME_DIR", Folder(b) + "/run");
-         return QDir().mkpath(Folder(b) + "/run") &&
-                chmod(QFile::encodeName(Folder(b) + "/run").constData(), 0700) == 0;
-     },
-     false},
-    {"shared_runtime_folder_with_foreign_lock",
-     [](TestBundle& b, QProcessEnvironment& env) {
-         env.insert("XDG_RUNTIME_DIR", Folder(b) + "/shared");
-         return ForeignLock(b, Folder(b) + "/shared");
-     },
-     false},
+    {"default_places", nullptr, nullptr, 0, false},
+    {"temporary_folder_missing_as_user", "TMPDIR", "missing", 0, true},
+    {"temporary_folder_a_file", "TMPDIR", "", 0, false},
+    {"foreign_lock_in_temporary_folder", "TMPDIR", "tmp", 01777, false},
+    {"private_runtime_folder", "XDG_RUNTIME_DIR", "run", 0700, false},
+    {"shared_runtime_folder_with_foreign_lock", "XDG_RUNTIME_DIR", "shared", 01777, false},
 };
 
 class LauncherCrowd : public testing::TestWithParam<CrowdCase> {};
@@ -90,7 +59,12 @@ TEST_P(LauncherCrowd, TwentyStartedAtOnceInstallExactlyOnce)
     ASSERT_TRUE(b.ok());
     ASSERT_TRUE(b.setBuild(4, ClientPackage(4, 2)));
     QProcessEnvironment env = b.environment();
-    ASSERT_TRUE(c.setup(b, env));
+    if (c.variable != nullptr) {
+        const QString place = *c.place ? Folder(b) + "/" + c.place : b.package();
+        env.insert(c.variable, place);
+        ASSERT_TRUE(c.mode == 0 || (QDir().mkpath(place) && chmod(QFile::encodeName(place), c.mode) == 0));
+        ASSERT_TRUE(c.mode != 01777 || ForeignLock(b, place));
+    }
     QString program = b.executable();
     QStringList args;
     // Root makes any folder; a user cannot make one in "/".
@@ -100,16 +74,15 @@ TEST_P(LauncherCrowd, TwentyStartedAtOnceInstallExactlyOnce)
         program = "setpriv";
     }
 
-    std::vector<std::unique_ptr<QProcess>> launchers;
-    for (int i = 0; i < 20; ++i) {
-        launchers.emplace_back(new QProcess);
-        launchers.back()->setProcessEnvironment(env);
-        launchers.back()->start(program, args);
+    QProcess launchers[20];
+    for (QProcess& p : launchers) {
+        p.setProcessEnvironment(env);
+        p.start(program, args);
     }
-    for (auto& p : launchers) {
-        ASSERT_TRUE(p->waitForFinished(kRunTimeoutMs)) << qPrintable(p->readAllStandardError());
-        EXPECT_EQ(QProcess::NormalExit, p->exitStatus());
-        EXPECT_EQ(0, p->exitCode());
+    for (QProcess& p : launchers) {
+        ASSERT_TRUE(p.waitForFinished(kRunTimeoutMs)) << qPrintable(p.readAllStandardError());
+        EXPECT_EQ(QProcess::NormalExit, p.exitStatus());
+        EXPECT_EQ(0, p.exitCode());
     }
     // All of them append to the same log.
     EXPECT_EQ(1, LinesWith(b.log(), "extract package:").size()) << qPrintable(b.log());
@@ -133,8 +106,7 @@ TEST(LauncherInstance, LockOfAKilledLauncherIsTakenOver)
     holder.start(b.executable(), QStringList());
     ASSERT_TRUE(holder.waitForStarted(kWaitTimeoutMs));
     EXPECT_TRUE(b.waitForClientEvent("term 1"));
-    ASSERT_GT(holder.processId(), 0);
-    ASSERT_EQ(0, kill(static_cast<pid_t>(holder.processId()), SIGKILL));
+    holder.kill();
     ASSERT_TRUE(holder.waitForFinished(kWaitTimeoutMs));
 
     const int offset = b.log().size();

@@ -108,19 +108,7 @@ const PlaceCase kCases[] = {
     {"home_non_utf8", kLatin1Jose, [](TestBundle&, Start&) { return true; }, false},
 };
 
-class LauncherPlaces : public testing::TestWithParam<PlaceCase> {
-protected:
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    void SetUp() override
-    {
-        QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
-    }
-    void TearDown() override
-    {
-        QTextCodec::setCodecForLocale(nullptr);
-    }
-#endif
-};
+class LauncherPlaces : public testing::TestWithParam<PlaceCase> {};
 
 TEST_P(LauncherPlaces, UpgradesTheRealCopyAndStartsTheClient)
 {
@@ -129,6 +117,9 @@ TEST_P(LauncherPlaces, UpgradesTheRealCopyAndStartsTheClient)
         GTEST_SKIP() << "a password database of its own needs root";
     if (QT_VERSION >= QT_VERSION_CHECK(6, 0, 0) && std::string(c.name).find("non_utf8") != std::string::npos)
         GTEST_SKIP() << "Qt 6 names files in UTF-8 only";
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
+#endif
     TestBundle b(QFile::decodeName(c.home));
     ASSERT_TRUE(b.ok());
     // An older copy, as a launcher installed it earlier.
