@@ -16,7 +16,8 @@ public:
     bool start();
     QString name() const { return name_; }
 
-    // The viewable top-level window with that title, 0 if there is none.
+    // The viewable window with that title (as xwininfo finds it), 0 if there
+    // is none.
     unsigned long viewableWindow(const QByteArray& title);
     // What a user does to be rid of a dialog: Escape pressed and released,
     // then a window manager's close request (WM_DELETE_WINDOW).
