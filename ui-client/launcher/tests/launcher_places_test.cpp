@@ -31,9 +31,9 @@ struct Start {
 };
 
 struct PlaceCase : dwtest::Row {
-    const char* home;  // the home folder's name, bytes
     std::function<bool(TestBundle&, Start&)> setup;
-    bool needs_root;  // for a password database of its own
+    const char* home = "home";  // the home folder's name, bytes
+    bool needs_root = false;    // for a password database of its own
 };
 
 QString Folder(const TestBundle& b)
@@ -48,64 +48,58 @@ QString Script(const TestBundle& b, const QByteArray& body)
 }
 
 // The launcher in a mount namespace of its own, where the password database
-// names the test's home folder as this account's.
-bool AccountHomeIsTestHome(TestBundle& b, Start& s)
+// names the test's home folder as this account's; HOME set to that (unset
+// when null).
+std::function<bool(TestBundle&, Start&)> AccountHome(const char* home)
 {
-    QByteArray passwd;
-    for (const QByteArray& line : dwtest::ReadFile(QString("/etc/passwd")).split('\n')) {
-        QList<QByteArray> fields = line.split(':');
-        if (fields.size() == 7 && fields[2] == QByteArray::number(getuid()))
-            fields[5] = QFile::encodeName(b.home());
-        passwd += fields.join(':') + '\n';
-    }
-    const QString copy = Folder(b) + "/passwd";
-    s.program = Script(b, "exec unshare --mount sh -c 'mount --bind \"$1\" /etc/passwd && exec \"$2\"' sh '" +
-                              QFile::encodeName(copy) + "' '" + QFile::encodeName(b.executable()) + "'");
-    return dwtest::WriteFile(copy, passwd) && !s.program.isEmpty();
+    return [home](TestBundle& b, Start& s) {
+        if (home == nullptr)
+            s.env.remove("HOME");
+        else
+            s.env.insert("HOME", home);
+        QByteArray passwd;
+        for (const QByteArray& line : dwtest::ReadFile(QString("/etc/passwd")).split('\n')) {
+            QList<QByteArray> fields = line.split(':');
+            if (fields.size() == 7 && fields[2] == QByteArray::number(getuid()))
+                fields[5] = QFile::encodeName(b.home());
+            passwd += fields.join(':') + '\n';
+        }
+        const QString copy = Folder(b) + "/passwd";
+        s.program = Script(
+            b, "exec unshare --mount sh -c 'mount --bind \"$1\" /etc/passwd && exec \"$2\"' sh '" +
+                   QFile::encodeName(copy) + "' '" + QFile::encodeName(b.executable()) + "'");
+        return dwtest::WriteFile(copy, passwd) && !s.program.isEmpty();
+    };
 }
 
 const PlaceCase kCases[] = {
-    {"symlink_in_another_folder", "home",
+    {"symlink_in_another_folder",
      [](TestBundle& b, Start& s) {
          s.program = Folder(b) + "/bin/driftwell";
          return QDir().mkpath(Folder(b) + "/bin") && QFile::link(b.executable(), s.program);
-     },
-     false},
-    {"bare_name_in_path", "home",
+     }},
+    {"bare_name_in_path",
      [](TestBundle& b, Start& s) {
          s.env.insert("PATH", QFileInfo(b.executable()).path() + ":" + s.env.value("PATH"));
          s.program = Script(b, "exec launcher");
          return !s.program.isEmpty();
-     },
-     false},
-    {"bundle_under_non_utf8_folder", "home",
+     }},
+    {"bundle_under_non_utf8_folder",
      [](TestBundle& b, Start& s) {
          const QString folder = Folder(b) + "/" + QFile::decodeName(kLatin1Jose);
          s.executable = folder + "/Driftwell.app/Contents/MacOS/launcher";
          s.program = s.executable;
          return QDir().mkpath(folder) && QDir().rename(b.bundle(), folder + "/Driftwell.app");
-     },
-     false},
-    {"home_unset", "home",
-     [](TestBundle& b, Start& s) {
-         s.env.remove("HOME");
-         return AccountHomeIsTestHome(b, s);
-     },
-     true},
-    {"home_empty", "home",
-     [](TestBundle& b, Start& s) {
-         s.env.insert("HOME", "");
-         return AccountHomeIsTestHome(b, s);
-     },
-     true},
-    {"home_relative", "home",
+     }},
+    {"home_unset", AccountHome(nullptr), "home", true},
+    {"home_empty", AccountHome(""), "home", true},
+    {"home_relative",
      [](TestBundle& b, Start& s) {
          s.env.insert("HOME", "home");
          s.working_dir = Folder(b);
          return true;
-     },
-     false},
-    {"home_non_utf8", kLatin1Jose, [](TestBundle&, Start&) { return true; }, false},
+     }},
+    {"home_non_utf8", [](TestBundle&, Start&) { return true; }, kLatin1Jose},
 };
 
 class LauncherPlaces : public testing::TestWithParam<PlaceCase> {};
