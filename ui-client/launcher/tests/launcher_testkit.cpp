@@ -12,18 +12,16 @@ namespace {
 
 std::string ClientScript(int build, ClientKind kind)
 {
-    const std::string n = std::to_string(build);
-    return "#!/bin/sh\n"
-           "here=$(cd \"$(dirname \"$0\")/../../..\" && pwd)\n"
-           // Whole, by a rename: whatever held the name (a FIFO) is replaced.
-           "echo \"pid=$$\" > \"$here/ui.pid.$$\" && mv -f \"$here/ui.pid.$$\" \"$here/ui.pid\"\n"
-           "echo \"start " +
-           n +
-           " $$\" >> \"$here/clients.log\"\n"
-           "trap 'echo \"term " +
-           n + " $$\" >> \"$here/clients.log\"" + (kind == ClientKind::ExitsOnTerm ? "; exit 0" : "") +
-           "' TERM\n"
-           "for i in $(seq 600); do sleep 1; done\n";
+    // The pid file whole, by a rename: whatever held the name (a FIFO) is replaced.
+    return QString("#!/bin/sh\n"
+                   "here=$(cd \"$(dirname \"$0\")/../../..\" && pwd)\n"
+                   "echo \"pid=$$\" > \"$here/ui.pid.$$\" && mv -f \"$here/ui.pid.$$\" \"$here/ui.pid\"\n"
+                   "echo \"start %1 $$\" >> \"$here/clients.log\"\n"
+                   "trap 'echo \"term %1 $$\" >> \"$here/clients.log\"%2' TERM\n"
+                   "for i in $(seq 600); do sleep 1; done\n")
+        .arg(build)
+        .arg(kind == ClientKind::ExitsOnTerm ? "; exit 0" : "")
+        .toStdString();
 }
 
 }  // namespace

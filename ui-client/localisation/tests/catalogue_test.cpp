@@ -17,7 +17,6 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QResource>
-#include <QTemporaryDir>
 #include <QTranslator>
 #include <QXmlStreamReader>
 
@@ -85,14 +84,11 @@ struct Message {
 // The catalogue's messages as lconvert reads them from the compiled file.
 QList<Message> ListCatalogue(const QString& code, QString* error)
 {
-    QTemporaryDir dir;
-    const QString qm = dir.filePath(code + ".qm");
-    if (!QFile::copy(":/" + code + ".qm", qm)) {
-        *error = "cannot copy the resource";
-        return {};
-    }
+    QFile qm(":/" + code + ".qm");
     QProcess lconvert;
-    lconvert.start(DW_LCONVERT, {"-i", qm, "-of", "ts", "-o", "-"});
+    lconvert.start(DW_LCONVERT, {"-if", "qm", "-i", "-", "-of", "ts", "-o", "-"});
+    lconvert.write(qm.open(QIODevice::ReadOnly) ? qm.readAll() : QByteArray());
+    lconvert.closeWriteChannel();
     if (!lconvert.waitForFinished(60000) || lconvert.exitCode() != 0) {
         *error = "lconvert failed: " + QString::fromUtf8(lconvert.readAllStandardError());
         return {};
