@@ -17,11 +17,6 @@ namespace {
 
 const uid_t kNobody = 65534;
 
-QString Folder(const TestBundle& b)
-{
-    return QDir::cleanPath(b.home() + "/..");
-}
-
 // An empty file of the lock's name (a checksum of the executable and the user
 // id) that another user made and nobody may read.
 bool ForeignLock(const TestBundle& b, const QString& folder)
@@ -60,7 +55,7 @@ TEST_P(LauncherCrowd, TwentyStartedAtOnceInstallExactlyOnce)
     ASSERT_TRUE(b.setBuild(4, ClientPackage(4, 2)));
     QProcessEnvironment env = b.environment();
     if (c.variable != nullptr) {
-        const QString place = *c.place ? Folder(b) + "/" + c.place : b.package();
+        const QString place = *c.place ? b.folder() + "/" + c.place : b.package();
         env.insert(c.variable, place);
         ASSERT_TRUE(c.mode == 0 || (QDir().mkpath(place) && chmod(QFile::encodeName(place), c.mode) == 0));
         ASSERT_TRUE(c.mode != 01777 || ForeignLock(b, place));
@@ -69,7 +64,7 @@ TEST_P(LauncherCrowd, TwentyStartedAtOnceInstallExactlyOnce)
     QStringList args;
     // Root makes any folder; a user cannot make one in "/".
     if (c.as_user && getuid() == 0) {
-        ASSERT_EQ(0, QProcess::execute("chown", {"-R", "-h", "65534:65534", Folder(b)}));
+        ASSERT_EQ(0, QProcess::execute("chown", {"-R", "-h", "65534:65534", b.folder()}));
         args = QStringList{"--reuid=65534", "--regid=65534", "--clear-groups", program};
         program = "setpriv";
     }

@@ -36,14 +36,9 @@ struct PlaceCase : dwtest::Row {
     bool needs_root = false;    // for a password database of its own
 };
 
-QString Folder(const TestBundle& b)
-{
-    return QDir::cleanPath(b.home() + "/..");
-}
-
 QString Script(const TestBundle& b, const QByteArray& body)
 {
-    const QString path = Folder(b) + "/start.sh";
+    const QString path = b.folder() + "/start.sh";
     return dwtest::WriteFile(path, "#!/bin/sh\n" + body + "\n", 0755) ? path : QString();
 }
 
@@ -64,7 +59,7 @@ std::function<bool(TestBundle&, Start&)> AccountHome(const char* home)
                 fields[5] = QFile::encodeName(b.home());
             passwd += fields.join(':') + '\n';
         }
-        const QString copy = Folder(b) + "/passwd";
+        const QString copy = b.folder() + "/passwd";
         s.program = Script(
             b, "exec unshare --mount sh -c 'mount --bind \"$1\" /etc/passwd && exec \"$2\"' sh '" +
                    QFile::encodeName(copy) + "' '" + QFile::encodeName(b.executable()) + "'");
@@ -75,8 +70,8 @@ std::function<bool(TestBundle&, Start&)> AccountHome(const char* home)
 const PlaceCase kCases[] = {
     {"symlink_in_another_folder",
      [](TestBundle& b, Start& s) {
-         s.program = Folder(b) + "/bin/driftwell";
-         return QDir().mkpath(Folder(b) + "/bin") && QFile::link(b.executable(), s.program);
+         s.program = b.folder() + "/bin/driftwell";
+         return QDir().mkpath(b.folder() + "/bin") && QFile::link(b.executable(), s.program);
      }},
     {"bare_name_in_path",
      [](TestBundle& b, Start& s) {
@@ -86,7 +81,7 @@ const PlaceCase kCases[] = {
      }},
     {"bundle_under_non_utf8_folder",
      [](TestBundle& b, Start& s) {
-         const QString folder = Folder(b) + "/" + QFile::decodeName(kLatin1Jose);
+         const QString folder = b.folder() + "/" + QFile::decodeName(kLatin1Jose);
          s.executable = folder + "/Driftwell.app/Contents/MacOS/launcher";
          s.program = s.executable;
          return QDir().mkpath(folder) && QDir().rename(b.bundle(), folder + "/Driftwell.app");
@@ -96,7 +91,7 @@ const PlaceCase kCases[] = {
     {"home_relative",
      [](TestBundle& b, Start& s) {
          s.env.insert("HOME", "home");
-         s.working_dir = Folder(b);
+         s.working_dir = b.folder();
          return true;
      }},
     {"home_non_utf8", [](TestBundle&, Start&) { return true; }, kLatin1Jose},

@@ -50,6 +50,7 @@ public:
     ~TestBundle();
 
     bool ok() const { return ok_; }
+    QString folder() const { return dir_.path(); }  // the test's own, holding the rest
     QString bundle() const { return dir_.path() + "/Driftwell.app"; }
     QString executable() const { return bundle() + "/Contents/MacOS/launcher"; }
     QString package() const { return bundle() + "/Contents/Resources/package/driftwell.tpk"; }
