@@ -147,12 +147,12 @@ protected:
     }
 
     // Starts the installed drift-ui as the desktop would (through the
-    // service's own launch) and waits for its pid file.
+    // service's own launch, which keeps no child) and waits for its pid file.
     pid_t StartClient(const char* mode)
     {
         unlink(pid_file_.c_str());
         setenv("DW_FAKE_CLIENT_MODE", mode, 1);
-        Run({"launch"});
+        EXPECT_EQ(Run({"launch"}), "no children");
         pid_t pid = 0;
         WaitFor([&] { return (pid = PidInFile()) > 0; });
         started_.push_back(pid);
@@ -538,11 +538,9 @@ TEST_F(ServiceTest, LaunchNeedsAnExecutableAndStartsTheClientDetachedAndOnlyOnce
         EXPECT_FALSE(Exists(pid_file_));
     }
     InstallOldCopy();
-    EXPECT_EQ(Run({"launch"}), "no children");
+    const pid_t client = StartClient("term");
+    ASSERT_GT(client, 0);
     EXPECT_EQ(ServiceLog(), Lines{});
-    ASSERT_TRUE(WaitFor([&] { return PidInFile() > 0; }));
-    const pid_t client = PidInFile();
-    started_.push_back(client);
     EXPECT_EQ(getsid(client), client) << "session leader";
     // Nothing of the launcher's reaches the client: no descriptor, no folder.
     const QString proc = "/proc/" + QString::number(client);
@@ -589,10 +587,8 @@ TEST_P(ServiceRemovesAged, FoldersAndLeftoversOfACurrentCopy)
     InstallOldCopy(Bak(7), -1);
     Run({"remove-aged"});
     Lines expected = {"[INFO] drift-service(#): removing aged app folder " + aged};
-    if (row.removed) {
-        expected.push_back(Leftover(0));
-        expected.push_back(Leftover(7));
-    }
+    if (row.removed)
+        expected.insert(expected.end(), {Leftover(0), Leftover(7)});
     EXPECT_EQ(ServiceLog(), expected);
     EXPECT_FALSE(Exists(aged));
     EXPECT_EQ(Exists(Bak(0)), !row.removed);
