@@ -19,9 +19,7 @@ bool g_exit_on_term = true;
 
 void OnTerm(int)
 {
-    int fd = open(g_marker, O_WRONLY | O_CREAT | O_TRUNC, 0644);
-    if (fd >= 0)
-        close(fd);
+    close(open(g_marker, O_WRONLY | O_CREAT | O_TRUNC, 0644));
     if (g_exit_on_term)
         _exit(0);
 }

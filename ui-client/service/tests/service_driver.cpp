@@ -1,7 +1,8 @@
 // Runs the real service the way the launcher does: from a bundle's
 // Contents/MacOS (the tests copy this program there) with the home folder of
 // $HOME. The logger writes to the file given first, with the thresholds of the
-// bundle's log/launcher.debug. Prints one result:
+// bundle's log/launcher.debug. Runs as the user $DW_DRIVER_UID when that is
+// set and not 0. Prints one result:
 //   service_driver LOG decide        PreUpgrade + IsNeedUpgrade: 1 or 0
 //   service_driver LOG upgrade       HandlePackageUpgrade: its result
 //   service_driver LOG upgrade-losing-backup   the same, the record of backup
@@ -10,11 +11,13 @@
 //   service_driver LOG launch        PostUpgrade: whether children of ours remain
 //   service_driver LOG remove-aged   RemoveAgedFolders: nothing
 //   service_driver LOG copy SRC DST  FSCopyPath: its result
+#include <grp.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 #include <QCoreApplication>
@@ -72,6 +75,10 @@ int main(int argc, char** argv)
         fprintf(stderr, "usage: %s LOG COMMAND [ARGS]\n", argv[0]);
         return 2;
     }
+    const char* uid_text = getenv("DW_DRIVER_UID");
+    const uid_t uid = uid_text == nullptr ? 0 : static_cast<uid_t>(atoi(uid_text));
+    if (uid != 0 && (setgroups(0, nullptr) != 0 || setgid(uid) != 0 || setuid(uid) != 0))
+        return 126;
     QCoreApplication app(argc, argv);
     const ustring level_file = Service::GetRootDriftwellInstallPath() + "/log/launcher.debug";
     if (Logger::Initialize(Logger::LOG_TYPE_FILE, argv[1], level_file, 3) != 0) {

@@ -15,25 +15,23 @@
 // from a first, unkilled run of each package with a generator seeded by S and
 // the trial number: the same seed gives the same trials. Prints the survivors
 // per point; exit status 0 when every killed trial survived.
-#include <fcntl.h>
 #include <signal.h>
-#include <spawn.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <algorithm>
 #include <chrono>
 #include <climits>
 #include <cstdio>
-#include <cstring>
+#include <map>
 #include <random>
 #include <set>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
+#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
@@ -56,43 +54,44 @@ const Phase kPoints[] = {kStop, kBackup, kExtract, kRollback, kCleanUp};
 const int kPointCount = 6;
 const int kOldBuild = 1, kNewBuild = 2;
 
-long long NowUs()
-{
-    return std::chrono::duration_cast<std::chrono::microseconds>(
-               std::chrono::steady_clock::now().time_since_epoch())
-        .count();
-}
-
-// One line of the shim's trace.
+// One line of the shim's trace, and the phase of the upgrade it falls in.
 struct Call {
-    long n = 0;
-    long long us = 0;
+    long n;
     QString func, path, path2;
-    long tid = 0;
+    long tid;
+    Phase phase = kStart;
 };
 
-bool ParseCall(const QByteArray& line, Call& call)
-{
-    const QList<QByteArray> f = line.split('\t');
-    if (f.size() != 6)
-        return false;
-    call = {f[0].toLong(),           f[1].toLongLong(),       f[2],
-            QString::fromUtf8(f[3]), QString::fromUtf8(f[4]), f[5].toLong()};
-    return true;
-}
-
-// Follows one upgrade through its counted calls.
-class PhaseTracker {
+// The shim's trace of one upgrade as it grows, each call given its phase.
+class Trace {
 public:
-    PhaseTracker(const QString& app, bool damaged)
-        : app_(app),
-          backup_(app + "_tmp"),
-          pid_file_(QFileInfo(app).path() + "/ui.pid"),
-          record_(app + "/Contents/Resources/INFO"),
-          damaged_(damaged)
+    Trace(const QString& path, const QString& app, bool damaged) : file_(path), app_(app), damaged_(damaged)
     {
     }
 
+    // Appends the calls traced since the last read to calls; the first new one.
+    size_t Read()
+    {
+        const size_t from = calls.size();
+        if (!file_.isOpen() && !file_.open(QIODevice::ReadOnly))
+            return from;
+        pending_ += file_.readAll();
+        int start = 0;
+        for (int end; (end = pending_.indexOf('\n', start)) >= 0; start = end + 1) {
+            const QList<QByteArray> f = pending_.mid(start, end - start).split('\t');
+            if (f.size() != 5)
+                continue;
+            calls.push_back(
+                {f[0].toLong(), f[1], QString::fromUtf8(f[2]), QString::fromUtf8(f[3]), f[4].toLong()});
+            calls.back().phase = Next(calls.back());
+        }
+        pending_.remove(0, start);
+        return from;
+    }
+
+    std::vector<Call> calls;
+
+private:
     Phase Next(const Call& c)
     {
         const bool backup = c.path.startsWith(backup_) || c.path2.startsWith(backup_);
@@ -114,9 +113,11 @@ public:
         return phase_;
     }
 
-private:
-    QString app_, backup_, pid_file_, record_;
-    bool damaged_;
+    QFile file_;
+    QByteArray pending_;
+    const QString app_, backup_ = app_ + "_tmp", pid_file_ = QFileInfo(app_).path() + "/ui.pid";
+    const QString record_ = app_ + "/Contents/Resources/INFO";
+    const bool damaged_;
     Phase phase_ = kStart;
     bool renamed_ = false, restored_ = false;
 };
@@ -125,15 +126,29 @@ private:
 struct Census {
     long total = 0;
     long first[kPhases] = {}, last[kPhases] = {};
-    long long first_us[kPhases] = {}, last_us[kPhases] = {};
+};
+
+// How a trial kills: the shim before call shim_at; or from here as soon as
+// the trace shows call signal_at, or delay_us after the first call of phase.
+// All zero (delay -1): not at all.
+struct Kill {
+    long shim_at = 0, signal_at = 0;
+    Phase phase = kStart;
+    long long delay_us = -1;
+};
+
+struct Outcome {
+    bool set_up = false;
+    bool finished = false;  // ended by itself, not by a kill
+    bool killed = false;
+    std::vector<Call> calls;
 };
 
 struct Options {
-    int trials = 60;
-    unsigned long seed = 1;
-    int files = 2400;
-    int only = -1;
-    bool verbose = false;
+    int trials;
+    unsigned long seed;
+    int files, only;
+    bool verbose;
 };
 
 class FaultDriver {
@@ -145,8 +160,9 @@ public:
         std::mt19937_64 rng(o_.seed);
         const QString stage = work_.path() + "/stage";
         if (!Stage(stage + "1", kOldBuild, rng) || !Stage(stage + "2", kNewBuild, rng) ||
-            !Pack(stage + "1", old_package_) || !Pack(stage + "2", new_package_))
-            return false;
+            QProcess::execute(DW_MAKE_PACKAGE, {"tar.zst", stage + "2.tpk", stage + "2"}) != 0)
+            return Fail("cannot stage and pack the builds");
+        new_package_ = ReadFile(stage + "2.tpk");
         old_tree_ = dwtest::Snapshot(stage + "1");
         new_tree_ = dwtest::Snapshot(stage + "2");
         old_copy_ = stage + "1";
@@ -155,29 +171,19 @@ public:
         damaged_package_ = new_package_.left(new_package_.size() / 2);
         for (const bool damaged : {false, true}) {
             TestBundle b;
-            const QString trace = work_.path() + "/census";
-            QFile::remove(trace);
-            if (!SetUp(b, damaged) || !Launch(b, trace, damaged, Kill()).finished)
+            const Outcome run = Launch(b, damaged, Kill());
+            if (!run.finished)
                 return Fail("the unkilled upgrade did not finish");
             Census& c = census_[damaged];
-            PhaseTracker tracker(b.userApp(), damaged);
-            for (const QByteArray& line : ReadFile(trace).split('\n')) {
-                Call call;
-                if (!ParseCall(line, call))
-                    continue;
-                const Phase p = tracker.Next(call);
-                if (c.first[p] == 0) {
-                    c.first[p] = call.n;
-                    c.first_us[p] = call.us;
-                }
-                c.last[p] = c.total = call.n;
-                c.last_us[p] = call.us;
+            for (const Call& call : run.calls) {
+                if (c.first[call.phase] == 0)
+                    c.first[call.phase] = call.n;
+                c.last[call.phase] = c.total = call.n;
             }
             if (o_.verbose) {
                 printf("%s package, %ld counted calls:", damaged ? "damaged" : "good", c.total);
                 for (int p = 0; p < kPhases; ++p)
-                    printf(" %s %ld-%ld (%lld us)", kPhaseNames[p], c.first[p], c.last[p],
-                           c.last_us[p] - c.first_us[p]);
+                    printf(" %s %ld-%ld", kPhaseNames[p], c.first[p], c.last[p]);
                 printf("\n");
             }
             for (const Phase p : kPoints) {
@@ -193,7 +199,8 @@ public:
     {
         struct Tally {
             int trials = 0, killed = 0, survived = 0, landed = 0;
-        } tally[kPointCount][2];
+        };
+        std::map<std::pair<int, bool>, Tally> tally;  // by kill point, then by signal
         int several = 0;
         for (int t = 0; t < o_.trials; ++t) {
             if (o_.only >= 0 && t != o_.only)
@@ -201,7 +208,7 @@ public:
             const int point = t % kPointCount;
             // The backup is one rename, "any" a number: only a call can hit them.
             const bool by_call = point == 1 || point == 5 || (t + t / kPointCount) % 2 == 0;
-            Tally& row = tally[point][by_call ? 0 : 1];
+            Tally& row = tally[{point, !by_call}];
             ++row.trials;
             bool landed = false, busy = false;
             const QString failure = Trial(t, point, by_call, landed, busy);
@@ -214,17 +221,13 @@ public:
         }
         int killed = 0, survived = 0;
         printf("\nkill point  by      trials  killed  survived  landed in the point\n");
-        for (int p = 0; p < kPointCount; ++p) {
-            for (int m = 0; m < 2; ++m) {
-                const Tally& row = tally[p][m];
-                if (row.trials == 0)
-                    continue;
-                printf("%-10s  %-6s  %6d  %6d  %8d  %s\n", p < 5 ? kPhaseNames[kPoints[p]] : "any call",
-                       m == 0 ? "call" : "signal", row.trials, row.killed, row.survived,
-                       p < 5 ? QByteArray::number(row.landed).constData() : "-");
-                killed += row.killed;
-                survived += row.survived;
-            }
+        for (const auto& [key, row] : tally) {
+            const int p = key.first;
+            printf("%-10s  %-6s  %6d  %6d  %8d  %s\n", p < 5 ? kPhaseNames[kPoints[p]] : "any call",
+                   key.second ? "signal" : "call", row.trials, row.killed, row.survived,
+                   p < 5 ? QByteArray::number(row.landed).constData() : "-");
+            killed += row.killed;
+            survived += row.survived;
         }
         printf("all         %d killed, %d survived\n", killed, survived);
         printf("kills in the extraction with several threads among its last 32 calls: %d\n", several);
@@ -264,18 +267,9 @@ private:
                QFile::link("drift-ui", root + "/Contents/MacOS/ui");
     }
 
-    bool Pack(const QString& root, QByteArray& package)
-    {
-        const QString file = root + ".tpk";
-        if (QProcess::execute(DW_MAKE_PACKAGE, {"tar.zst", file, root}) != 0)
-            return Fail("make_package failed");
-        package = ReadFile(file);
-        return true;
-    }
-
     // A fresh bundle of the new build over an installed old copy whose client
     // runs (ignoring SIGTERM if asked: then the stop takes five seconds).
-    bool SetUp(TestBundle& b, bool damaged, bool ignore_term = false)
+    bool SetUp(TestBundle& b, bool damaged, bool ignore_term)
     {
         // Default thresholds: the log shows warnings and errors only.
         if (!b.ok() || !WriteFile(b.bundle() + "/log/launcher.debug", "") ||
@@ -295,90 +289,57 @@ private:
                Fail("the old client wrote no pid file");
     }
 
-    struct Outcome {
-        bool finished = false;  // ended by itself, not by a kill
-        bool killed = false;
-    };
-
-    // How a trial kills: the shim before call shim_at; or from here as soon
-    // as the trace shows call signal_at, or delay_us after the first call of
-    // phase. All zero (delay -1): not at all.
-    struct Kill {
-        long shim_at = 0, signal_at = 0;
-        Phase phase = kStart;
-        long long delay_us = -1;
-    };
-
-    // The launcher under the shim, tracing to `trace`.
-    Outcome Launch(const TestBundle& b, const QString& trace, bool damaged, const Kill& kill_plan)
+    // The set-up, then the launcher under the shim, killed as the plan says
+    // (a delay is meant for the stop of a client that ignores SIGTERM).
+    Outcome Launch(TestBundle& b, bool damaged, const Kill& plan)
     {
+        const QString path = work_.path() + "/trace";
+        QFile::remove(path);
+        Outcome outcome;
+        if (!(outcome.set_up = SetUp(b, damaged, plan.delay_us >= 0)))
+            return outcome;
         QProcessEnvironment env = b.environment();
         env.insert("LD_PRELOAD", DW_KILL_SHIM);
         env.insert("DW_FAULT_ROOT", b.userDir());
-        env.insert("DW_FAULT_TRACE", trace);
-        if (kill_plan.shim_at > 0)
-            env.insert("DW_FAULT_KILL_AT", QString::number(kill_plan.shim_at));
+        env.insert("DW_FAULT_TRACE", path);
+        if (plan.shim_at > 0)
+            env.insert("DW_FAULT_KILL_AT", QString::number(plan.shim_at));
         // A sanitized launcher wants its runtime first; the shim before it is harmless.
         env.insert("ASAN_OPTIONS", env.value("ASAN_OPTIONS") + ":verify_asan_link_order=0");
-        std::vector<QByteArray> strings;
-        std::vector<char*> envp;
-        for (const QString& s : env.toStringList())
-            strings.push_back(s.toUtf8());
-        for (QByteArray& s : strings)
-            envp.push_back(s.data());
-        envp.push_back(nullptr);
-        QByteArray exe = QFile::encodeName(b.executable());
-        char* argv[] = {exe.data(), nullptr};
-        posix_spawn_file_actions_t actions;
-        posix_spawn_file_actions_init(&actions);
-        posix_spawn_file_actions_addopen(&actions, 1, "/dev/null", O_WRONLY, 0);
-        posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0);
-        pid_t pid = 0;
-        const int spawned = posix_spawn(&pid, exe.constData(), &actions, nullptr, argv, envp.data());
-        posix_spawn_file_actions_destroy(&actions);
-        Outcome outcome;
-        if (spawned != 0)
+        QProcess launcher;
+        launcher.setProcessEnvironment(env);
+        launcher.setStandardOutputFile(QProcess::nullDevice());
+        launcher.setStandardErrorFile(QProcess::nullDevice());
+        launcher.start(b.executable(), {});
+        if (!launcher.waitForStarted())
             return outcome;
 
-        PhaseTracker tracker(b.userApp(), damaged);
-        QFile file(trace);
-        QByteArray pending;
-        const long long start = NowUs();
-        long long fire_at = -1;
-        int status = 0;
-        while (waitpid(pid, &status, WNOHANG) == 0) {
-            const bool watch = kill_plan.signal_at > 0 || kill_plan.delay_us >= 0;
-            if (watch && fire_at < 0 && (file.isOpen() || file.open(QIODevice::ReadOnly))) {
-                pending += file.readAll();
-                for (int end; fire_at < 0 && (end = pending.indexOf('\n')) >= 0;) {
-                    Call call;
-                    const bool parsed = ParseCall(pending.left(end), call);
-                    pending.remove(0, end + 1);
-                    if (parsed && kill_plan.signal_at > 0 && call.n >= kill_plan.signal_at)
-                        fire_at = 0;
-                    else if (parsed && kill_plan.delay_us >= 0 && tracker.Next(call) == kill_plan.phase)
-                        fire_at = NowUs() + kill_plan.delay_us;
-                }
+        Trace trace(path, b.userApp(), damaged);
+        QElapsedTimer clock;
+        clock.start();
+        long long fire_at = -1;  // microseconds on the clock
+        const bool watch = plan.signal_at > 0 || plan.delay_us >= 0;
+        while (!launcher.waitForFinished(0) && launcher.state() != QProcess::NotRunning) {
+            const long long now = clock.nsecsElapsed() / 1000;
+            for (size_t i = watch && fire_at < 0 ? trace.Read() : trace.calls.size();
+                 fire_at < 0 && i < trace.calls.size(); ++i) {
+                if (plan.signal_at > 0 && trace.calls[i].n >= plan.signal_at)
+                    fire_at = 0;
+                else if (plan.delay_us >= 0 && trace.calls[i].phase == plan.phase)
+                    fire_at = now + plan.delay_us;
             }
-            const long long now = NowUs();
-            if ((fire_at >= 0 && now >= fire_at) || now - start > kRunTimeoutMs * 1000LL) {
-                kill(pid, SIGKILL);
+            if ((fire_at >= 0 && now >= fire_at) || now > kRunTimeoutMs * 1000LL) {
+                launcher.kill();
                 fire_at = LLONG_MAX;
             }
             std::this_thread::sleep_for(std::chrono::microseconds(200));
         }
-        outcome.finished = WIFEXITED(status) && WEXITSTATUS(status) == 0;
-        outcome.killed = WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
+        trace.Read();
+        const bool crashed = launcher.exitStatus() == QProcess::CrashExit;
+        outcome.finished = !crashed && launcher.exitCode() == 0;
+        outcome.killed = crashed && launcher.exitCode() == SIGKILL;
+        outcome.calls = std::move(trace.calls);
         return outcome;
-    }
-
-    static bool IsComplete(const QString& copy)
-    {
-        return QFile::exists(copy + "/Contents/MacOS/drift-ui") &&
-               !QSettings(copy + "/Contents/Resources/INFO", QSettings::IniFormat)
-                    .value("Version/build_version")
-                    .toString()
-                    .isEmpty();
     }
 
     // One trial; an empty text when it survived, "not killed" when the kill
@@ -409,87 +370,90 @@ private:
             plan.signal_at = std::uniform_int_distribution<long>(c.first[phase], c.last[phase])(rng);
             how = QString("a signal once call %1 is traced").arg(plan.signal_at);
         }
-        const QString what =
+        QString what =
             QString("trial %1: %2 by %3").arg(t).arg(point < 5 ? kPhaseNames[phase] : "any call").arg(how);
         TestBundle b;
-        const QString trace = work_.path() + "/trace";
-        QFile::remove(trace);
-        if (!SetUp(b, damaged, phase == kStop && !by_call))
-            return Report(what, "set-up failed");
-        if (!Launch(b, trace, damaged, plan).killed)
-            return Report(what, "not killed");
-        PhaseTracker tracker(b.userApp(), damaged);
-        Phase last = kStart, before = kStart;
-        std::vector<long> extracting;  // the thread of each call of the extraction
-        for (const QByteArray& line : ReadFile(trace).split('\n')) {
-            Call call;
-            if (ParseCall(line, call)) {
-                before = last;
-                last = tracker.Next(call);
-                if (last == kExtract)
-                    extracting.push_back(call.tid);
+        const Outcome out = Launch(b, damaged, plan);
+        const std::vector<Call>& calls = out.calls;
+        const auto phase_back = [&](size_t k) {
+            return calls.size() > k ? calls[calls.size() - 1 - k].phase : kStart;
+        };
+        landed = point < 5 && (phase_back(0) == phase || phase_back(1) == phase);
+        std::set<long> threads;
+        int extracting = 0;
+        for (auto call = calls.rbegin(); call != calls.rend() && extracting < 32; ++call) {
+            if (call->phase == kExtract) {
+                threads.insert(call->tid);
+                ++extracting;
             }
         }
-        landed = point < 5 && (last == phase || before == phase);
-        const size_t recent = std::min<size_t>(extracting.size(), 32);
-        several = landed && phase == kExtract &&
-                  std::set<long>(extracting.end() - static_cast<long>(recent), extracting.end()).size() > 1;
-
-        // What the killed run left, for the log check.
-        const QString app = b.userApp();
-        QStringList left;
-        for (int i = 0; i <= 9; ++i) {
-            const QString backup = app + "_tmp" + (i == 0 ? QString() : QString::number(i));
-            if (QFileInfo::exists(backup))
-                left << backup;
+        several = landed && phase == kExtract && threads.size() > 1;
+        QString failure = !out.set_up ? "set-up failed" : !out.killed ? "not killed" : QString();
+        if (failure.isEmpty()) {
+            what += QString(", landed in %1").arg(kPhaseNames[phase_back(0)]);
+            failure = Check(b, damaged ? old_tree_ : new_tree_, what);
         }
-        if (QFileInfo::exists(app) && !IsComplete(app))
+        if (o_.verbose || !failure.isEmpty())
+            printf("%s: %s\n", qPrintable(what), failure.isEmpty() ? "survived" : qPrintable(failure));
+        fflush(stdout);
+        return failure;
+    }
+
+    // What the next, unkilled launch leaves; an empty text when all is well,
+    // else what is wrong and that launch's log.
+    QString Check(const TestBundle& b, const dwtest::Tree& package, QString& what)
+    {
+        const QString app = b.userApp();
+        const auto backups = [&] {
+            QStringList found;
+            for (int i = 0; i <= 9; ++i) {
+                const QString backup = app + "_tmp" + (i == 0 ? QString() : QString::number(i));
+                if (QFileInfo::exists(backup))
+                    found << backup;
+            }
+            return found;
+        };
+        // What the killed run left, each to be named in a warning.
+        QStringList left = backups();
+        if (QFileInfo::exists(app) && !(QFile::exists(app + "/Contents/MacOS/drift-ui") &&
+                                        !QSettings(app + "/Contents/Resources/INFO", QSettings::IniFormat)
+                                             .value("Version/build_version")
+                                             .toString()
+                                             .isEmpty()))
             left << app;
+        what += QString(", left %1 folder(s)").arg(left.size());
 
         const int offset = b.log().size();
         const RunResult again = b.run();
         const QString log = b.log().mid(offset);
-        QString failure;
-        if (!again.exited_with_zero)
-            failure = "the next launch did not exit with 0";
-        else if (dwtest::Snapshot(app) != (damaged ? old_tree_ : new_tree_))
-            failure = "the per-user copy differs from the package";
-        for (int i = 0; failure.isEmpty() && i <= 9; ++i) {
-            if (QFileInfo::exists(app + "_tmp" + (i == 0 ? QString() : QString::number(i))))
-                failure = QString("backup %1 remains").arg(i);
-        }
-        for (const QString& folder : left) {
-            if (failure.isEmpty() && LinesWith(log, "[WARNING]").filter("'" + folder + "'").isEmpty())
-                failure = "no warning names " + folder;
-        }
-        if (failure.isEmpty()) {
+        const auto verify = [&]() -> QString {
+            if (!again.exited_with_zero)
+                return "the next launch did not exit with 0";
+            if (dwtest::Snapshot(app) != package)
+                return "the per-user copy differs from the package";
+            if (!backups().isEmpty())
+                return "left in place: " + backups().join(", ");
+            for (const QString& folder : left) {
+                if (LinesWith(log, "[WARNING]").filter("'" + folder + "'").isEmpty())
+                    return "no warning names " + folder;
+            }
             const QString exe = app + "/Contents/MacOS/drift-ui";
             const auto one_client = [&] {
                 const qint64 pid = b.clientPid();
                 return ProcessRunsExecutable(static_cast<pid_t>(pid), QFile::encodeName(exe).constData()) &&
                        b.processes() == QList<qint64>{pid};
             };
-            if (!dwtest::WaitFor(one_client, 20000))
-                failure = "not exactly one client, running from the per-user copy";
-        }
-        if (o_.verbose || !failure.isEmpty())
-            printf("%s, landed in %s, left %d folder(s): %s\n", qPrintable(what), kPhaseNames[last],
-                   static_cast<int>(left.size()), failure.isEmpty() ? "survived" : qPrintable(failure));
-        if (!failure.isEmpty())
-            printf("next launch's log:\n%s\n", qPrintable(log));
-        fflush(stdout);
-        return failure;
-    }
-
-    QString Report(const QString& what, const QString& failure)
-    {
-        printf("%s: %s\n", qPrintable(what), qPrintable(failure));
-        return failure;
+            return dwtest::WaitFor(one_client, 20000)
+                       ? QString()
+                       : "not exactly one client, running from the per-user copy";
+        };
+        const QString failure = verify();
+        return failure.isEmpty() ? failure : failure + "\nnext launch's log:\n" + log;
     }
 
     Options o_;
     QTemporaryDir work_;
-    QByteArray old_package_, new_package_, damaged_package_;
+    QByteArray new_package_, damaged_package_;
     dwtest::Tree old_tree_, new_tree_;
     QString old_copy_;
     Census census_[2];  // good package, damaged package
@@ -500,25 +464,15 @@ private:
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
-    Options o;
-    for (int i = 1; i < argc; ++i) {
-        const std::string arg = argv[i];
-        const bool value = i + 1 < argc;
-        if (arg == "--trials" && value)
-            o.trials = atoi(argv[++i]);
-        else if (arg == "--seed" && value)
-            o.seed = strtoul(argv[++i], nullptr, 10);
-        else if (arg == "--files" && value)
-            o.files = atoi(argv[++i]);
-        else if (arg == "--only" && value)
-            o.only = atoi(argv[++i]);
-        else if (arg == "-v")
-            o.verbose = true;
-        else {
-            fprintf(stderr, "usage: %s [--trials N] [--seed S] [--files F] [--only T] [-v]\n", argv[0]);
-            return 2;
-        }
-    }
+    QCommandLineParser args;
+    args.addOptions({{"trials", "Trials to run.", "N", "60"},
+                     {"seed", "Seed of the trials.", "S", "1"},
+                     {"files", "Files in each build.", "F", "2400"},
+                     {"only", "Runs trial T alone.", "T", "-1"},
+                     {"v", "Prints the calls of each phase and every trial."}});
+    args.process(app);
+    const Options o{args.value("trials").toInt(), args.value("seed").toULong(), args.value("files").toInt(),
+                    args.value("only").toInt(), args.isSet("v")};
     FaultDriver driver(o);
     printf("fault injection: seed %lu, %d trials, package of %d files\n", o.seed, o.trials, o.files);
     fflush(stdout);

@@ -2,7 +2,7 @@
 // every file-system call on a path below $DW_FAULT_ROOT (open, mkdir, rename,
 // unlink, remove, rmdir, links; the *at forms too) and every signal it sends
 // (kill, pidfd_send_signal) is numbered from 1 and appended to $DW_FAULT_TRACE as
-//   number <TAB> monotonic microseconds <TAB> call <TAB> path <TAB> second path <TAB> thread id
+//   number <TAB> call <TAB> path <TAB> second path <TAB> thread id
 // before it runs. With $DW_FAULT_KILL_AT=k the process raises SIGKILL on
 // itself instead of making call k. Forked children are not counted, and
 // nothing the process starts inherits the shim.
@@ -19,7 +19,6 @@
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/types.h>
-#include <time.h>
 #include <unistd.h>
 
 static pid_t g_pid;  // 0 until set up: nothing is counted before
@@ -95,11 +94,8 @@ static void note(const char* call, int dirfd, const char* path, int dirfd2, cons
     }
     const unsigned long n = __atomic_add_fetch(&g_count, 1, __ATOMIC_SEQ_CST);
     if (g_trace >= 0) {
-        struct timespec now;
-        clock_gettime(CLOCK_MONOTONIC, &now);
         char line[3 * PATH_MAX];
-        const int len = snprintf(line, sizeof line, "%lu\t%lld\t%s\t%s\t%s\t%ld\n", n,
-                                 (long long)now.tv_sec * 1000000 + now.tv_nsec / 1000, call, first, second,
+        const int len = snprintf(line, sizeof line, "%lu\t%s\t%s\t%s\t%ld\n", n, call, first, second,
                                  (long)syscall(SYS_gettid));
         if (len > 0 && write(g_trace, line, (size_t)len < sizeof line ? (size_t)len : sizeof line) < 0)
             g_trace = -1;
@@ -108,106 +104,60 @@ static void note(const char* call, int dirfd, const char* path, int dirfd2, cons
         raise(SIGKILL);
 }
 
-static mode_t mode_arg(int flags, va_list args)
-{
-    return (flags & (O_CREAT | O_TMPFILE)) != 0 ? (mode_t)va_arg(args, int) : 0;
-}
-
-#define OPEN_LIKE(name)                                                                                      \
-    int name(const char* path, int flags, ...)                                                               \
-    {                                                                                                        \
-        va_list args;                                                                                        \
-        va_start(args, flags);                                                                               \
-        const mode_t mode = mode_arg(flags, args);                                                           \
-        va_end(args);                                                                                        \
-        note(#name, AT_FDCWD, path, AT_FDCWD, NULL);                                                         \
-        REAL(int (*)(const char*, int, ...), name);                                                          \
-        return real_##name(path, flags, mode);                                                               \
-    }
-OPEN_LIKE(open)
-OPEN_LIKE(open64)
-
-#define OPENAT_LIKE(name)                                                                                    \
-    int name(int dirfd, const char* path, int flags, ...)                                                    \
-    {                                                                                                        \
-        va_list args;                                                                                        \
-        va_start(args, flags);                                                                               \
-        const mode_t mode = mode_arg(flags, args);                                                           \
-        va_end(args);                                                                                        \
-        note(#name, dirfd, path, AT_FDCWD, NULL);                                                            \
-        REAL(int (*)(int, const char*, int, ...), name);                                                     \
-        return real_##name(dirfd, path, flags, mode);                                                        \
-    }
-OPENAT_LIKE(openat)
-OPENAT_LIKE(openat64)
-
-// The fortified forms, called where the mode argument is absent.
-#define OPEN_2(name)                                                                                         \
-    int name(const char* path, int flags);                                                                   \
-    int name(const char* path, int flags)                                                                    \
-    {                                                                                                        \
-        note(#name, AT_FDCWD, path, AT_FDCWD, NULL);                                                         \
-        REAL(int (*)(const char*, int), name);                                                               \
-        return real_##name(path, flags);                                                                     \
-    }
-OPEN_2(__open_2)
-OPEN_2(__open64_2)
-
-#define OPENAT_2(name)                                                                                       \
-    int name(int dirfd, const char* path, int flags);                                                        \
-    int name(int dirfd, const char* path, int flags)                                                         \
-    {                                                                                                        \
-        note(#name, dirfd, path, AT_FDCWD, NULL);                                                            \
-        REAL(int (*)(int, const char*, int), name);                                                          \
-        return real_##name(dirfd, path, flags);                                                              \
-    }
-OPENAT_2(__openat_2)
-OPENAT_2(__openat64_2)
-
-// One path argument, any others passed through.
-#define PATH_CALL(ret, name, params, args, path)                                                             \
-    ret name params                                                                                          \
-    {                                                                                                        \
-        note(#name, AT_FDCWD, path, AT_FDCWD, NULL);                                                         \
-        REAL(ret(*) params, name);                                                                           \
-        return real_##name args;                                                                             \
-    }
-PATH_CALL(int, creat, (const char* p, mode_t m), (p, m), p)
-PATH_CALL(FILE*, fopen, (const char* p, const char* m), (p, m), p)
-PATH_CALL(FILE*, fopen64, (const char* p, const char* m), (p, m), p)
-PATH_CALL(DIR*, opendir, (const char* p), (p), p)
-PATH_CALL(int, mkdir, (const char* p, mode_t m), (p, m), p)
-PATH_CALL(int, unlink, (const char* p), (p), p)
-PATH_CALL(int, rmdir, (const char* p), (p), p)
-PATH_CALL(int, remove, (const char* p), (p), p)
-
-#define AT_CALL(ret, name, params, args, dirfd, path)                                                        \
-    ret name params                                                                                          \
-    {                                                                                                        \
-        note(#name, dirfd, path, AT_FDCWD, NULL);                                                            \
-        REAL(ret(*) params, name);                                                                           \
-        return real_##name args;                                                                             \
-    }
-AT_CALL(int, mkdirat, (int d, const char* p, mode_t m), (d, p, m), d, p)
-AT_CALL(int, unlinkat, (int d, const char* p, int f), (d, p, f), d, p)
-
-#define TWO_PATH_CALL(ret, name, params, args, dirfd, path, dirfd2, path2)                                   \
+// Every wrapper: counts the call on its path (and second path), then makes it.
+#define CALL(ret, name, params, args, dirfd, path, dirfd2, path2)                                            \
     ret name params                                                                                          \
     {                                                                                                        \
         note(#name, dirfd, path, dirfd2, path2);                                                             \
         REAL(ret(*) params, name);                                                                           \
         return real_##name args;                                                                             \
     }
-TWO_PATH_CALL(int, rename, (const char* a, const char* b), (a, b), AT_FDCWD, a, AT_FDCWD, b)
-TWO_PATH_CALL(int, renameat, (int da, const char* a, int db, const char* b), (da, a, db, b), da, a, db, b)
-TWO_PATH_CALL(int, renameat2, (int da, const char* a, int db, const char* b, unsigned f), (da, a, db, b, f),
-              da, a, db, b)
-TWO_PATH_CALL(int, link, (const char* a, const char* b), (a, b), AT_FDCWD, a, AT_FDCWD, b)
-TWO_PATH_CALL(int, linkat, (int da, const char* a, int db, const char* b, int f), (da, a, db, b, f), da, a,
-              db, b)
+// The open forms pass a mode only when one is given.
+#define OPEN_CALL(name, params, args, dirfd, path)                                                           \
+    int name params                                                                                          \
+    {                                                                                                        \
+        va_list va;                                                                                          \
+        va_start(va, flags);                                                                                 \
+        const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? (mode_t)va_arg(va, int) : 0;              \
+        va_end(va);                                                                                          \
+        note(#name, dirfd, path, AT_FDCWD, NULL);                                                            \
+        REAL(int(*) params, name);                                                                           \
+        return real_##name args;                                                                             \
+    }
+OPEN_CALL(open, (const char* p, int flags, ...), (p, flags, mode), AT_FDCWD, p)
+OPEN_CALL(open64, (const char* p, int flags, ...), (p, flags, mode), AT_FDCWD, p)
+OPEN_CALL(openat, (int d, const char* p, int flags, ...), (d, p, flags, mode), d, p)
+OPEN_CALL(openat64, (int d, const char* p, int flags, ...), (d, p, flags, mode), d, p)
+
+// The fortified forms, called where the mode argument is absent.
+int __open_2(const char* p, int f);
+int __open64_2(const char* p, int f);
+int __openat_2(int d, const char* p, int f);
+int __openat64_2(int d, const char* p, int f);
+CALL(int, __open_2, (const char* p, int f), (p, f), AT_FDCWD, p, AT_FDCWD, NULL)
+CALL(int, __open64_2, (const char* p, int f), (p, f), AT_FDCWD, p, AT_FDCWD, NULL)
+CALL(int, __openat_2, (int d, const char* p, int f), (d, p, f), d, p, AT_FDCWD, NULL)
+CALL(int, __openat64_2, (int d, const char* p, int f), (d, p, f), d, p, AT_FDCWD, NULL)
+
+CALL(int, creat, (const char* p, mode_t m), (p, m), AT_FDCWD, p, AT_FDCWD, NULL)
+CALL(FILE*, fopen, (const char* p, const char* m), (p, m), AT_FDCWD, p, AT_FDCWD, NULL)
+CALL(FILE*, fopen64, (const char* p, const char* m), (p, m), AT_FDCWD, p, AT_FDCWD, NULL)
+CALL(DIR*, opendir, (const char* p), (p), AT_FDCWD, p, AT_FDCWD, NULL)
+CALL(int, mkdir, (const char* p, mode_t m), (p, m), AT_FDCWD, p, AT_FDCWD, NULL)
+CALL(int, unlink, (const char* p), (p), AT_FDCWD, p, AT_FDCWD, NULL)
+CALL(int, rmdir, (const char* p), (p), AT_FDCWD, p, AT_FDCWD, NULL)
+CALL(int, remove, (const char* p), (p), AT_FDCWD, p, AT_FDCWD, NULL)
+CALL(int, mkdirat, (int d, const char* p, mode_t m), (d, p, m), d, p, AT_FDCWD, NULL)
+CALL(int, unlinkat, (int d, const char* p, int f), (d, p, f), d, p, AT_FDCWD, NULL)
+CALL(int, rename, (const char* a, const char* b), (a, b), AT_FDCWD, a, AT_FDCWD, b)
+CALL(int, renameat, (int da, const char* a, int db, const char* b), (da, a, db, b), da, a, db, b)
+CALL(int, renameat2, (int da, const char* a, int db, const char* b, unsigned f), (da, a, db, b, f), da, a, db,
+     b)
+CALL(int, link, (const char* a, const char* b), (a, b), AT_FDCWD, a, AT_FDCWD, b)
+CALL(int, linkat, (int da, const char* a, int db, const char* b, int f), (da, a, db, b, f), da, a, db, b)
 // A link's target is text, not a path that is touched: only the link counts.
-TWO_PATH_CALL(int, symlink, (const char* t, const char* p), (t, p), AT_FDCWD, p, AT_FDCWD, NULL)
-TWO_PATH_CALL(int, symlinkat, (const char* t, int d, const char* p), (t, d, p), d, p, AT_FDCWD, NULL)
+CALL(int, symlink, (const char* t, const char* p), (t, p), AT_FDCWD, p, AT_FDCWD, NULL)
+CALL(int, symlinkat, (const char* t, int d, const char* p), (t, d, p), d, p, AT_FDCWD, NULL)
 
 // Signals through a pidfd, as the stop sends them where it can.
 long syscall(long number, ...)
