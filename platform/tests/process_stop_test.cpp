@@ -65,26 +65,31 @@ bool NextPidWillBe(pid_t pid)
     return ok;
 }
 
+// Held through the pin, a child ends on SIGTERM; by number (the fallback where
+// pidfds are refused, the number checked before each signal and probe), one
+// that ignores SIGTERM ends only on SIGKILL. Not reaped, a zombie has ended.
 TEST(ProcessStop, EndsOnSigtermOrOnlyOnSigkill)
 {
-    for (const bool ignores : {false, true}) {
-        SCOPED_TRACE(ignores ? "ignores SIGTERM" : "ends on SIGTERM");
-        const pid_t child = StartSleep(ignores);
-        HeldProcess held;
-        ASSERT_EQ(held.Open(child, kSleep), PROCESS_MATCHES);
-        EXPECT_TRUE(held.Pinned()) << "pidfds refused here: only the fallback is tested";
-        EXPECT_EQ(held.Signal(SIGTERM), 0);
-        if (ignores) {
-            EXPECT_FALSE(held.WaitForExit(200));
-            EXPECT_TRUE(Running(child));
-            EXPECT_EQ(held.Signal(SIGKILL), 0);
-        }
-        // Not reaped: a zombie has ended all the same.
-        EXPECT_TRUE(held.WaitForExit(60000));
-        EXPECT_TRUE(held.WaitForExit(0));
-        EXPECT_EQ(Reap(child), ignores ? SIGKILL : SIGTERM);
-        EXPECT_EQ(held.Signal(SIGKILL), ESRCH);
-    }
+    const pid_t ends = StartSleep(false), ignores = StartSleep(true);
+    HeldProcess held;
+    ASSERT_EQ(held.Open(ends, kSleep), PROCESS_MATCHES);
+    EXPECT_TRUE(held.Pinned()) << "pidfds refused here: the pin is not tested";
+    EXPECT_FALSE(held.WaitForExit(200));
+    EXPECT_EQ(held.Signal(SIGTERM), 0);
+    EXPECT_TRUE(held.WaitForExit(60000));
+    EXPECT_TRUE(held.WaitForExit(0));
+    EXPECT_EQ(held.Signal(SIGKILL), ESRCH);
+    EXPECT_EQ(Reap(ends), SIGTERM);
+
+    EXPECT_EQ(SignalIfRunning(ignores, "/bin/sh", SIGKILL), ESRCH);
+    EXPECT_EQ(SignalIfRunning(ignores, kSleep, SIGTERM), 0);
+    EXPECT_FALSE(ProbeForExit(ignores, kSleep, 200));
+    EXPECT_TRUE(Running(ignores));
+    EXPECT_EQ(SignalIfRunning(ignores, kSleep, SIGKILL), 0);
+    EXPECT_TRUE(ProbeForExit(ignores, kSleep, 60000));
+    EXPECT_EQ(SignalIfRunning(ignores, kSleep, SIGKILL), ESRCH);
+    EXPECT_EQ(Reap(ignores), SIGKILL);
+    EXPECT_TRUE(ProbeForExit(ignores, kSleep, 0));
 }
 
 TEST(ProcessStop, HoldsNothingButTheNamedProgram)
@@ -120,27 +125,6 @@ TEST(ProcessStop, HoldsNothingButTheNamedProgram)
     kill(other, SIGKILL);
     Reap(other);
     Reap(zombie);
-}
-
-// Where pidfds are refused: the number, checked before each signal and probe.
-TEST(ProcessStop, FallbackProbesByNumber)
-{
-    for (const bool ignores : {false, true}) {
-        SCOPED_TRACE(ignores ? "ignores SIGTERM" : "ends on SIGTERM");
-        const pid_t child = StartSleep(ignores);
-        EXPECT_FALSE(ProbeForExit(child, kSleep, 0));
-        EXPECT_EQ(SignalIfRunning(child, "/bin/sh", SIGKILL), ESRCH);
-        EXPECT_EQ(SignalIfRunning(child, kSleep, SIGTERM), 0);
-        if (ignores) {
-            EXPECT_FALSE(ProbeForExit(child, kSleep, 200));
-            EXPECT_TRUE(Running(child));
-            EXPECT_EQ(SignalIfRunning(child, kSleep, SIGKILL), 0);
-        }
-        EXPECT_TRUE(ProbeForExit(child, kSleep, 60000));
-        EXPECT_EQ(SignalIfRunning(child, kSleep, SIGKILL), ESRCH);
-        EXPECT_EQ(Reap(child), ignores ? SIGKILL : SIGTERM);
-        EXPECT_TRUE(ProbeForExit(child, kSleep, 0));
-    }
 }
 
 // The held client ends and its number goes to a new process of the very same

@@ -3,11 +3,11 @@
 #include <gtest/gtest.h>
 #include <malloc.h>
 
-#include <cstdio>
+#include <algorithm>
 #include <cstring>
 #include <functional>
 #include <new>
-#include <sstream>
+#include <regex>
 #include <stdexcept>
 #include <string>
 
@@ -30,16 +30,10 @@ std::u16string utf16_of(const ustring& s)
 // text, ICU error code, source line. Returns the number of lines.
 size_t warnings(const std::string& call)
 {
-    std::istringstream in(testing::internal::GetCapturedStderr());
-    const std::string format = "Warning: " + call + ": error code %*d at line %d%c";
-    size_t count = 0;
-    for (std::string l; std::getline(in, l); ++count) {
-        int line = 0;
-        char rest = 0;
-        EXPECT_EQ(std::sscanf(l.c_str(), format.c_str(), &line, &rest), 1) << l;
-        EXPECT_GT(line, 0) << l;
-    }
-    return count;
+    const std::string text = testing::internal::GetCapturedStderr();
+    const std::string line = "Warning: " + call + ": error code -?\\d+ at line [1-9]\\d*\n";
+    EXPECT_TRUE(std::regex_match(text, std::regex("(" + line + ")*"))) << text;
+    return std::count(text.begin(), text.end(), '\n');
 }
 
 std::string thrown_text(const std::function<void()>& f)
@@ -54,27 +48,14 @@ std::string thrown_text(const std::function<void()>& f)
 
 }  // namespace
 
-TEST(UstringTest, AppendsAndAssignsFromItsOwnBuffer)
+// Appending and assigning the string's own bytes from any offset is the
+// fuzzer's (fuzz_ustring checks it against std::string; seeds self-*).
+TEST(UstringTest, AssignsItselfAndFromItsOwnUtf16AndTrimsByItsOwnBytes)
 {
-    ustring s("abcd");
-    s += s;
-    s.append(s.c_str());
-    EXPECT_STREQ(s.c_str(), "abcdabcdabcdabcd");
-    // Grow far enough that realloc has to move the buffer while it is read.
-    for (int i = 0; i < 8; ++i)
-        s.append(s.c_str(), s.length());
-    EXPECT_EQ(s.length(), 4096u);
-    EXPECT_EQ(s.find("dabc", 4000), 4003u);
-
-    ustring m("abcdef");
-    m.append(m.c_str() + 2);
-    EXPECT_STREQ(m.c_str(), "abcdefcdef");
-    m.assign(m.c_str() + 6, 4);
+    ustring m("cdef");
     m.assign(m.c_str());
     m = static_cast<const ustring&>(m);
     EXPECT_STREQ(m.c_str(), "cdef");
-    m.assign(m, 3);
-    EXPECT_STREQ(m.c_str(), "f");
 
     ustring w("xy");
     w.append(w.c_str_utf16());
@@ -158,10 +139,9 @@ TEST(UstringTest, BuffersAreExactFit)
 
 TEST(UstringTest, PositionsBeyondTheSourceThrowOutOfRange)
 {
+    // The whole and past the end are among fuzz_ustring's seeds.
     const ustring s("abc");
     EXPECT_TRUE(s.substr(3).empty());
-    EXPECT_EQ(s.substr(0, npos), s);
-    EXPECT_EQ(thrown_text([&] { s.substr(4); }), "substr");
 
     ustring target("keep");
     EXPECT_EQ(thrown_text([&] { target.append(s, 4); }), "substr");
@@ -173,6 +153,8 @@ TEST(UstringTest, PositionsBeyondTheSourceThrowOutOfRange)
     EXPECT_EQ(thrown_text([&] { target.assign(std::string("x"), 2); }), "basic_string::substr");
 }
 
+// More inputs of each family, compared with std::string, are fuzz_ustring's
+// seeds (fuzz/seeds/ustring/search-*).
 TEST(UstringTest, SearchFamilies)
 {
     enum Family { Find, RFind, FirstOf, FirstNotOf, LastOf, LastNotOf };
@@ -182,25 +164,15 @@ TEST(UstringTest, SearchFamilies)
         const char* needle;
         size_t pos, expected;
     } rows[] = {
-        {"empty needle at pos", "abc", Find, "", 2, 2},
         {"empty needle at end", "abc", Find, "", 3, npos},
         {"find from pos", "abcbc", Find, "bc", 2, 3},
-        {"find needle longer than rest", "abc", Find, "bcd", 1, npos},
-        {"rfind last", "abcbc", RFind, "bc", npos, 3},
         {"rfind before pos", "abcbc", RFind, "bc", 2, 1},
         {"rfind runs past start", "abcbc", RFind, "bc", 3, 3},
-        {"rfind empty needle", "abc", RFind, "", npos, 2},
-        {"rfind empty text", "", RFind, "", npos, npos},
         {"first_of", "a/b:c", FirstOf, ":/", 0, 1},
-        {"first_of empty set", "abc", FirstOf, "", 0, npos},
-        {"first_of past end", "abc", FirstOf, "c", 3, npos},
         {"first_not_of", "  x", FirstNotOf, " ", 0, 2},
-        {"first_not_of empty set", "abc", FirstNotOf, "", 1, 1},
         {"last_of", "abcbc", LastOf, "b", npos, 3},
-        {"last_of empty set", "abc", LastOf, "", npos, npos},
         {"last_not_of", "x  ", LastNotOf, " ", npos, 0},
         {"last_not_of empty set", "abc", LastNotOf, "", 1, 1},
-        {"last_not_of empty text", "", LastNotOf, "a", npos, npos},
     };
     for (const auto& r : rows) {
         SCOPED_TRACE(r.name);
@@ -221,6 +193,7 @@ TEST(UstringTest, SearchFamilies)
     }
 }
 
+// An empty text is a fuzz_ustring seed (trim-empty-text).
 TEST(UstringTest, TrimRemovesSetBytesAtEitherEnd)
 {
     const struct {
@@ -229,7 +202,6 @@ TEST(UstringTest, TrimRemovesSetBytesAtEitherEnd)
         {" \t x y \t", " \t", "x y", "x y \t", " \t x y"},
         {"   ", " ", "", "", ""},
         {"abc", "", "abc", "abc", "abc"},
-        {"", " ", "", "", ""},
     };
     for (const auto& r : rows) {
         SCOPED_TRACE(r.text);

@@ -5,12 +5,12 @@
 #include <unistd.h>
 
 #include <atomic>
-#include <cctype>
 #include <chrono>
+#include <cstring>
 #include <filesystem>
 #include <functional>
-#include <map>
 #include <numeric>
+#include <regex>
 #include <set>
 #include <string>
 #include <thread>
@@ -23,38 +23,10 @@
 
 namespace {
 
+using dwtest::LogLines;
 using dwtest::ReadFile;
 using dwtest::WriteFile;
-
-// "%b %d %H:%M:%S " in the C locale, e.g. "Nov 16 20:37:07 ": always 16 bytes.
-const size_t kStampLength = 16;
-
-bool has_stamp(const std::string& line)
-{
-    const std::string shape = "MMM 00 00:00:00 ", months = "JanFebMarAprMayJunJulAugSepOctNovDec";
-    const size_t month = months.find(line.substr(0, 3));
-    if (line.size() < kStampLength || month == std::string::npos || month % 3 != 0)
-        return false;
-    for (size_t i = 3; i < kStampLength; ++i)
-        if (shape[i] == '0' ? !isdigit(static_cast<unsigned char>(line[i])) : line[i] != shape[i])
-            return false;
-    return true;
-}
-
-// The file's lines, each with its own line feed, without their time stamps;
-// a line that has none is kept whole and marked, so that it never matches.
-std::vector<std::string> messages_of(const std::string& path)
-{
-    const std::string text = ReadFile(path);
-    std::vector<std::string> out;
-    for (size_t start = 0, end; start < text.size(); start = end) {
-        end = text.find('\n', start);
-        end = end == std::string::npos ? text.size() : end + 1;
-        const std::string line = text.substr(start, end - start);
-        out.push_back(has_stamp(line) ? line.substr(kStampLength) : "no time stamp: " + line);
-    }
-    return out;
-}
+using Lines = std::vector<std::string>;
 
 // The logger's state is process-wide: every test starts from the start values.
 class LoggerTest : public ::testing::Test {
@@ -83,25 +55,24 @@ protected:
 
     std::string archive(int k) const { return log + "_" + std::to_string(k); }
 
-    // The log and its archives, each line a whole "[WARNING] <tag><writer>(<i>): <payload>"
-    // and each (writer, i) once, count of them in all; file -> writer -> its bytes there.
-    using Shares = std::map<std::string, std::map<int, long>>;
-    void whole_lines(char tag, const std::string& payload, size_t count, Shares& shares) const
+    // The log and its archives (put in files), each line a whole
+    // "[WARNING] <tag><writer>_<i>(#): <payload>" and each (writer, i) once, count of them in all.
+    void whole_lines(char tag, const std::string& payload, size_t count,
+                     std::vector<std::string>& files) const
     {
         std::set<std::pair<int, int>> seen;
         size_t total = 0;
-        const std::string format = std::string("[WARNING] ") + tag + "%d(%d): %n";
+        const std::string format = std::string("[WARNING] ") + tag + "%d_%d(#): %n";
         for (int k = -1; k < 0 || std::filesystem::exists(archive(k)); ++k) {
-            const std::string f = k < 0 ? log : archive(k);
-            std::map<int, long>& share = shares[f];
-            for (const std::string& message : messages_of(f)) {
+            const std::string f = files.emplace_back(k < 0 ? log : archive(k));
+            const std::string text = ReadFile(f);
+            EXPECT_TRUE(text.empty() || text.back() == '\n') << f;
+            for (const std::string& line : LogLines(f)) {
                 ++total;
                 int w = -1, i = -1, text_start = 0;
-                ASSERT_EQ(sscanf(message.c_str(), format.c_str(), &w, &i, &text_start), 2)
-                    << f << ": " << message;
-                ASSERT_EQ(message.substr(text_start), payload + "\n") << f << ": " << message;
+                ASSERT_EQ(sscanf(line.c_str(), format.c_str(), &w, &i, &text_start), 2) << f << ": " << line;
+                ASSERT_EQ(line.substr(text_start), payload) << f << ": " << line;
                 seen.insert({w, i});
-                share[w] += static_cast<long>(kStampLength + message.size());
             }
         }
         EXPECT_EQ(total, count);
@@ -114,19 +85,19 @@ protected:
 
 struct ThresholdRow : dwtest::Row {
     const char* level_file;  // null: none
-    std::vector<std::string> expected;
+    Lines expected;
 };
 
 const ThresholdRow kThresholdRows[] = {
     {"no_level_file",
      nullptr,
-     {"3 launcher_debug\n", "4 launcher_debug\n", "3 service_debug\n", "4 service_debug\n",
-      "3 extractor_debug\n", "4 extractor_debug\n", "3 unknown\n", "4 unknown\n"}},
+     {"3 launcher_debug", "4 launcher_debug", "3 service_debug", "4 service_debug", "3 extractor_debug",
+      "4 extractor_debug", "3 unknown", "4 unknown"}},
     // default_component is not a fall-back for components missing from the map.
     {"level_file",
      "service_debug = 7\nextractor_debug=2\ndefault_component=7\n",
-     {"3 launcher_debug\n", "4 launcher_debug\n", "3 service_debug\n", "4 service_debug\n",
-      "5 service_debug\n", "6 service_debug\n", "7 service_debug\n", "3 unknown\n", "4 unknown\n"}},
+     {"3 launcher_debug", "4 launcher_debug", "3 service_debug", "4 service_debug", "5 service_debug",
+      "6 service_debug", "7 service_debug", "3 unknown", "4 unknown"}},
 };
 
 class LoggerThresholds : public LoggerTest, public testing::WithParamInterface<ThresholdRow> {};
@@ -137,15 +108,18 @@ TEST_P(LoggerThresholds, WritesTimeStampAndCallerTextUpToEachComponentsThreshold
     const std::string level_path = row.level_file ? dir.file("launcher.debug") : "";
     ASSERT_TRUE(!row.level_file || WriteFile(level_path, row.level_file));
     ASSERT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, log.c_str(), level_path.c_str(), 50), 0);
-    std::vector<std::string> announced;  // what Writes said would be written
+    Lines announced;  // what Writes said would be written
     for (const char* component : {"launcher_debug", "service_debug", "extractor_debug", "unknown"})
         for (int level = Logger::LOG_ERROR; level <= Logger::LOG_DEBUG; ++level) {
             if (Logger::Writes(static_cast<Logger::Level>(level), component))
-                announced.push_back(std::to_string(level) + " " + component + "\n");
+                announced.push_back(std::to_string(level) + " " + component);
             Logger::LogMsg(static_cast<Logger::Level>(level), component, "%d %s\n", level, component);
         }
-    EXPECT_EQ(messages_of(log), row.expected);
+    EXPECT_EQ(LogLines(log), row.expected);
     EXPECT_EQ(announced, row.expected);
+    // Each line after its "%b %d %H:%M:%S " stamp, in the C locale.
+    const std::regex stamped("([A-Z][a-z]{2} \\d\\d \\d\\d:\\d\\d:\\d\\d [^\\n]*\\n)+");
+    EXPECT_TRUE(std::regex_match(ReadFile(log), stamped)) << ReadFile(log);
 }
 
 INSTANTIATE_TEST_SUITE_P(Levels, LoggerThresholds, testing::ValuesIn(kThresholdRows), dwtest::RowName());
@@ -163,18 +137,18 @@ TEST_F(LoggerTest, InitializeWithoutLogPathFailsButAppliesTheLevelFile)
 struct GarbageRow : dwtest::Row {
     const char* level_file;
     const char* warning;
-    size_t messages;
+    bool silenced;  // launcher_debug at 0: not even the error line
 };
 
 const GarbageRow kGarbageRows[] = {
     {"malformed",
      "\x7f"
      "ELF\x01 launcher_debug = 7\n[section]\n",
-     "' is malformed, default levels apply\n", 2},
-    {"not_a_number", "launcher_debug = loud\n", "': level of 'launcher_debug' is not a number, read as 0\n",
-     1},
+     "' is malformed, default levels apply", false},
+    {"not_a_number", "launcher_debug = loud\n", "': level of 'launcher_debug' is not a number, read as 0",
+     true},
     {"digits_then_letters", "launcher_debug = 4x\n",
-     "': level of 'launcher_debug' is not a number, read as 4\n", 2},
+     "': level of 'launcher_debug' is not a number, read as 4", false},
 };
 
 class LoggerLevelFile : public LoggerTest, public testing::WithParamInterface<GarbageRow> {};
@@ -187,11 +161,8 @@ TEST_P(LoggerLevelFile, GarbageIsSaid)
               0);
     Logger::LogMsg(Logger::LOG_ERROR, "launcher_debug", "3\n");
     Logger::LogMsg(Logger::LOG_NOTE, "launcher_debug", "5\n");
-    const std::vector<std::string> messages = messages_of(log);
-    ASSERT_EQ(messages.size(), row.messages);
-    EXPECT_EQ(messages[0].rfind("[WARNING] log(", 0), 0u) << messages[0];
-    EXPECT_NE(messages[0].find(row.warning), std::string::npos) << messages[0];
-    EXPECT_EQ(messages.back(), row.messages == 2 ? "3\n" : messages[0]);
+    const std::string warning = "[WARNING] log(#): level file '" + dir.file("launcher.debug") + row.warning;
+    EXPECT_EQ(LogLines(log), (row.silenced ? Lines{warning} : Lines{warning, "3"}));
 }
 
 INSTANTIATE_TEST_SUITE_P(Levels, LoggerLevelFile, testing::ValuesIn(kGarbageRows), dwtest::RowName());
@@ -204,15 +175,15 @@ TEST_F(LoggerTest, RotatesOnlyPastOneMebibyteKeepingRotateCountFiles)
 
     // 1,024 lines of 1,024 bytes reach exactly 1 MiB, which does not rotate yet.
     auto line = [](int i) {
-        std::string text = "[WARNING] log_test(" + std::to_string(i) + "): ";
-        return text + std::string(1024 - kStampLength - 1 - text.size(), 'x') + "\n";
+        std::string text = "[WARNING] log_test(#): " + std::to_string(i) + " ";
+        return text + std::string(1024 - strlen("Nov 16 20:37:07 ") - 1 - text.size(), 'x');
     };
     for (int i = 1; i <= 1024; ++i)
-        Logger::LogMsg(Logger::LOG_WARNING, "c", "%s", line(i).c_str());
+        Logger::LogMsg(Logger::LOG_WARNING, "c", "%s\n", line(i).c_str());
     EXPECT_EQ(ReadFile(archive(0)), "archive 0\n");
 
-    Logger::LogMsg(Logger::LOG_WARNING, "c", "%s", line(1025).c_str());
-    const std::vector<std::string> rotated = messages_of(archive(0));
+    Logger::LogMsg(Logger::LOG_WARNING, "c", "%s\n", line(1025).c_str());
+    const Lines rotated = LogLines(archive(0));
     ASSERT_EQ(rotated.size(), 1025u);
     EXPECT_EQ(rotated.back(), line(1025));  // the crossing line is whole in archive 0
     EXPECT_EQ(ReadFile(archive(1)), "archive 0\n");
@@ -220,7 +191,7 @@ TEST_F(LoggerTest, RotatesOnlyPastOneMebibyteKeepingRotateCountFiles)
     EXPECT_FALSE(std::filesystem::exists(archive(3)));
 
     Logger::LogMsg(Logger::LOG_WARNING, "c", "[WARNING] log_test(%d): next\n", 1026);
-    EXPECT_EQ(messages_of(log), std::vector<std::string>{"[WARNING] log_test(1026): next\n"});
+    EXPECT_EQ(LogLines(log), Lines{"[WARNING] log_test(#): next"});
     EXPECT_EQ(Logger::log_size, static_cast<int>(ReadFile(log).size()));
 }
 
@@ -234,7 +205,7 @@ TEST_F(LoggerTest, FailedRotationStopsLogging)
 
     EXPECT_EQ(Logger::Rotate(), -1);
     Logger::LogMsg(Logger::LOG_ERROR, "c", "[ERROR] log_test(%d): lost\n", 2);
-    EXPECT_EQ(messages_of(log), std::vector<std::string>{"[WARNING] log_test(1): before\n"});
+    EXPECT_EQ(LogLines(log), Lines{"[WARNING] log_test(#): before"});
 }
 
 // The log's name is never followed: a link there, to a file elsewhere or to
@@ -276,68 +247,54 @@ TEST_P(LoggerPlanted, ALinkOrSpecialFileAtTheLogsNameIsReplacedNotFollowed)
     struct stat st;
     ASSERT_EQ(lstat(log.c_str(), &st), 0);
     EXPECT_TRUE(S_ISREG(st.st_mode));
-    const std::vector<std::string> messages = messages_of(log);
-    ASSERT_EQ(messages.size(), 2u);
-    EXPECT_EQ(messages[0].rfind("[WARNING] log(", 0), 0u) << messages[0];
-    EXPECT_NE(messages[0].find(log), std::string::npos) << messages[0];
-    EXPECT_EQ(messages[1], "[WARNING] log_test(1): here\n");
+    EXPECT_EQ(LogLines(log),
+              (Lines{"[WARNING] log(#): '" + log +
+                         "' was a link or a special file; replaced by the log, nothing it named "
+                         "was touched",
+                     "[WARNING] log_test(#): here"}));
     EXPECT_EQ(dwtest::Exists(theirs) ? ReadFile(theirs) : "<nothing>",
               GetParam().theirs ? GetParam().theirs : "<nothing>");
 }
 
 INSTANTIATE_TEST_SUITE_P(Names, LoggerPlanted, testing::ValuesIn(kPlantedRows), dwtest::RowName());
 
-TEST_F(LoggerTest, ThreadsLoseOrTearNoLineAcrossRotations)
+// Threads in working folders of their own, as the extractor's thread works in
+// the destination: a log named relative to the process's folder must not
+// follow them there, and no line is lost or torn across the rotations.
+TEST_F(LoggerTest, ThreadsInFoldersOfTheirOwnLoseOrTearNoLineAcrossRotations)
 {
+    const std::filesystem::path start = std::filesystem::current_path();
+    std::filesystem::current_path(dir.path());
+    const bool initialized = Logger::Initialize(Logger::LOG_TYPE_FILE, "launcher.log", "", 50) == 0;
+    std::filesystem::current_path(start);
+    ASSERT_TRUE(initialized);
+    ASSERT_TRUE(std::filesystem::create_directory(dir.file("elsewhere")));
+
     const int threads = 8;
     const int per_thread = 4000;  // about 3.7 MB: three rotations
-    ASSERT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, log.c_str(), "", 50), 0);
-
     const std::string payload(96, 'p');
     std::atomic<bool> go{false};
+    std::atomic<int> entered{0};
     std::vector<std::thread> workers;
     for (int t = 0; t < threads; ++t)
         workers.emplace_back([&, t] {
+            ThreadFolder folder(dir.file("elsewhere").c_str());
+            entered += folder.entered();
             while (!go)
                 std::this_thread::yield();
             for (int i = 0; i < per_thread; ++i)
-                Logger::LogMsg(Logger::LOG_WARNING, "c", "[WARNING] t%d(%d): %s\n", t, i, payload.c_str());
+                Logger::LogMsg(Logger::LOG_WARNING, "c", "[WARNING] t%d_%d(0): %s\n", t, i, payload.c_str());
         });
     go = true;
     for (std::thread& w : workers)
         w.join();
 
-    Shares shares;
-    whole_lines('t', payload, threads * per_thread, shares);
-    EXPECT_GE(shares.size(), 4u);
-}
-
-// The extractor's thread works in the destination as its own working folder;
-// a log named relative to the process's folder must not follow it there.
-TEST_F(LoggerTest, AThreadInAFolderOfItsOwnLogsToTheSameFileThroughRotations)
-{
-    const std::filesystem::path start = std::filesystem::current_path();
-    std::filesystem::current_path(dir.path());
-    const bool initialized = Logger::Initialize(Logger::LOG_TYPE_FILE, "launcher.log", "", 2) == 0;
-    std::filesystem::current_path(start);
-    ASSERT_TRUE(initialized);
-    ASSERT_TRUE(std::filesystem::create_directory(dir.file("elsewhere")));
-
-    const int lines = 12000;  // about 1.2 MB: one rotation
-    const std::string payload(90, 'p');
-    bool entered = false;
-    std::thread inside([&] {
-        ThreadFolder folder(dir.file("elsewhere").c_str());
-        entered = folder.entered();
-        for (int i = 0; i < lines; ++i)
-            Logger::LogMsg(Logger::LOG_WARNING, "c", "[WARNING] t(%d): %s\n", i, payload.c_str());
-    });
-    inside.join();
-    if (!entered)
+    std::vector<std::string> files;
+    whole_lines('t', payload, threads * per_thread, files);
+    EXPECT_GE(files.size(), 4u);
+    if (entered < threads)
         GTEST_SKIP() << "this system gives no thread a working folder of its own";
     EXPECT_TRUE(std::filesystem::is_empty(dir.file("elsewhere")));
-    EXPECT_EQ(messages_of(archive(0)).size() + messages_of(log).size(), static_cast<size_t>(lines));
-    EXPECT_FALSE(std::filesystem::exists(archive(1)));
 }
 
 // Several launchers append to one log, each with a logger of its own: one
@@ -369,17 +326,17 @@ TEST_P(LoggerProcesses, SharingTheLogLoseNoLineAndRotateByItsRealSize)
     for (FILE* p : writers)
         EXPECT_EQ(pclose(p), 0);
 
-    Shares shares;
+    std::vector<std::string> files;
     whole_lines('w', std::string(80, 'p'), std::accumulate(row.lines.begin(), row.lines.end(), size_t{0}),
-                shares);
+                files);
     const auto entries = std::distance(std::filesystem::directory_iterator(dir.path()), {});
-    EXPECT_EQ(static_cast<size_t>(entries), shares.size()) << "names beside the log and its archives";
-    for (const auto& share : shares) {
-        const std::string text = ReadFile(share.first);
+    EXPECT_EQ(static_cast<size_t>(entries), files.size()) << "names beside the log and its archives";
+    for (const std::string& f : files) {
+        const std::string text = ReadFile(f);
         const size_t last_line = text.size() - text.rfind('\n', text.size() - 2) - 1;  // npos: the whole
-        EXPECT_LE(text.size() - last_line, 1048576u) << share.first;
-        if (share.first != log) {
-            EXPECT_GT(text.size(), 1048576u) << share.first;
+        EXPECT_LE(text.size() - last_line, 1048576u) << f;
+        if (f != log) {
+            EXPECT_GT(text.size(), 1048576u) << f;
         }
     }
 }

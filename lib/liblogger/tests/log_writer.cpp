@@ -12,6 +12,6 @@ int main(int argc, char** argv)
         return 2;
     const std::string payload(80, 'p');
     for (int i = 0, n = atoi(argv[4]); i < n; ++i)
-        Logger::LogMsg(Logger::LOG_WARNING, "c", "[WARNING] %s(%d): %s\n", argv[3], i, payload.c_str());
+        Logger::LogMsg(Logger::LOG_WARNING, "c", "[WARNING] %s_%d(0): %s\n", argv[3], i, payload.c_str());
     return Logger::log_fp != nullptr ? 0 : 1;
 }

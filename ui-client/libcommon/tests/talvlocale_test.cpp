@@ -1,54 +1,22 @@
 #include "TalvLocale.h"
-#include "strtable.h"
 #include "texts_app_environment.h"
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
-#include <QProcess>
-#include <QProcessEnvironment>
-
-#include <cstdio>
-#include <string>
+#include <QtGlobal>
 
 namespace {
 
 ::testing::Environment* const qtEnv = ::testing::AddGlobalTestEnvironment(new TextsAppEnvironment);
 
-const char kResultTag[] = "language=";
-
-// Not run directly: QLocale::system() is read once per process, so each locale
-// gets a child process of this program that runs only one of these.
-TEST(TalvLocaleProbe, DISABLED_PrintDefaultLanguage)
+// The language is read from the environment at every call (QLocale::system()
+// only where no variable is set), so the rows can share this process.
+QString DefaultLanguage(const char* locale)
 {
-    std::printf("%s%s\n", kResultTag, qPrintable(TalvLocale::getDefaultLanguage()));
-}
-
-TEST(TalvLocaleProbe, DISABLED_PrintDefaultLanguageWithoutCatalogues)
-{
-    qCleanupResources_texts();
-    std::printf("%s%s\n", kResultTag, qPrintable(TalvLocale::getDefaultLanguage()));
-}
-
-// The language a probe prints with only LC_ALL set; empty when the child failed.
-std::string DefaultLanguage(const char* probe, const QString& locale)
-{
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    for (const char* name : {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LC_NUMERIC", "LC_CTYPE", "LANG"})
-        env.remove(QString::fromLatin1(name));
-    env.insert("LC_ALL", locale);
-
-    QProcess child;
-    child.setProcessEnvironment(env);
-    child.start(QCoreApplication::applicationFilePath(),
-                {"--gtest_also_run_disabled_tests", QString("--gtest_filter=TalvLocaleProbe.") + probe});
-    if (!child.waitForFinished(120000) || child.exitStatus() != QProcess::NormalExit || child.exitCode() != 0)
-        return std::string();
-    for (const QString& line : QString::fromLocal8Bit(child.readAllStandardOutput()).split('\n')) {
-        if (line.startsWith(kResultTag))
-            return line.mid(int(sizeof(kResultTag)) - 1).toStdString();
-    }
-    return std::string();
+    for (const char* name : {"LANGUAGE", "LC_MESSAGES", "LANG"})
+        qunsetenv(name);
+    qputenv("LC_ALL", locale);
+    return TalvLocale::getDefaultLanguage();
 }
 
 TEST(TalvLocaleTest, DefaultLanguageFollowsSystemLocale)
@@ -63,12 +31,11 @@ TEST(TalvLocaleTest, DefaultLanguageFollowsSystemLocale)
         {"C", "enu"},     {"de_DE", "deu"},
     };
     for (const auto& row : rows)
-        EXPECT_EQ(DefaultLanguage("DISABLED_PrintDefaultLanguage", row.locale), row.code) << row.locale;
-}
-
-TEST(TalvLocaleTest, DefaultLanguageFallsBackWithoutCatalogue)
-{
-    EXPECT_EQ(DefaultLanguage("DISABLED_PrintDefaultLanguageWithoutCatalogues", "de_DE"), "enu");
+        EXPECT_EQ(DefaultLanguage(row.locale), row.code) << row.locale;
+    // Without its catalogue a known language falls back.
+    qCleanupResources_texts();
+    EXPECT_EQ(DefaultLanguage("de_DE"), "enu");
+    qInitResources_texts();
 }
 
 TEST(TalvLocaleTest, LanguageTable)
