@@ -137,6 +137,7 @@ TEST_F(FileOpTest, GetFileInfoDescribesMissingPathsAndLinksThemselves)
         EXPECT_EQ(info.size, size) << name;
         EXPECT_EQ(info.path, ustring(P(path).c_str())) << name;
     }
+    EXPECT_FALSE(IsMSDOS(P("file").c_str()));  // no FAT volume here
 }
 
 TEST_F(FileOpTest, CopyHandlesLargeAndEmptyFilesAndReportsAFullDevice)

@@ -530,9 +530,16 @@ TEST_F(ServiceTest, InstalledBuildBelowTheBundlesIsSaid)
 
 TEST_F(ServiceTest, LaunchNeedsAnExecutableAndStartsTheClientDetachedAndOnlyOnce)
 {
-    for (const bool present : {false, true}) {
-        SCOPED_TRACE(present ? "not executable" : "missing");
-        ASSERT_TRUE(!present || WriteFile(app_ + "/Contents/MacOS/drift-ui", ReadFile(DW_FAKE_CLIENT)));
+    const struct {
+        const char* name;
+        std::string data;
+        int mode;
+    } clients[] = {{"missing", "", 0},
+                   {"not executable", ReadFile(DW_FAKE_CLIENT), 0644},
+                   {"not a program", "no\n", 0755}};
+    for (const auto& c : clients) {
+        SCOPED_TRACE(c.name);
+        ASSERT_TRUE(c.mode == 0 || WriteFile(app_ + "/Contents/MacOS/drift-ui", c.data, c.mode));
         Run({"launch"});
         EXPECT_EQ(ServiceLog(), Lines{"[ERROR] mac/mac-service(#): Failed to launch Driftwell UI"});
         EXPECT_FALSE(Exists(pid_file_));
