@@ -147,19 +147,20 @@ protected:
     {
         const auto log_start = static_cast<std::streamoff>(fs::file_size(g_log));
         Outcome out;
-        QObject receiver;
+        // The context of the queued connections: this thread's.
+        QEventLoop loop;
         QObject::connect(
-            Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateDialogText, &receiver,
+            Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateDialogText, &loop,
             [&out](QString text) { out.texts.push_back(text); }, Qt::QueuedConnection);
         QObject::connect(
-            Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress, &receiver,
+            Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress, &loop,
             [&out](int total, int current) {
                 out.progress.emplace_back(total, current);
                 out.cwd.push_back(fs::current_path());
             },
             Qt::QueuedConnection);
         QObject::connect(
-            Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress, &receiver,
+            Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress, &loop,
             [&out](int, int) { out.inside.push_back(fs::current_path()); }, Qt::DirectConnection);
 
         Extractor extractor;
@@ -173,7 +174,6 @@ protected:
                 out.threads_left += before.count(thread) == 0;
             out.cwd_after = fs::current_path();
         }));
-        QEventLoop loop;
         // Queued behind the worker's reports, so every report is in when the loop ends.
         QObject::connect(worker.get(), &QThread::finished, &loop, &QEventLoop::quit, Qt::QueuedConnection);
         // An extraction that blocks for good fails the run rather than hanging it.
@@ -223,9 +223,7 @@ const std::string kInfo = "[Version]\nbuild_version = 7\n";
 const Entry kRecord = {Entry::File, "Contents/Resources/INFO", kInfo, 0600};
 const Entry kClient = {Entry::File, "Contents/MacOS/drift-ui", "x", 0755};
 const std::vector<Entry> kBundle = {{Entry::Folder, "Contents", ""},
-                                    {Entry::File, "Contents/drift-ui",
-                                     "\x7f"
-                                     "ELF"},
+                                    {Entry::File, "Contents/drift-ui", "\177ELF"},
                                     {Entry::File, "Contents/Info.plist", "<plist/>\n"},
                                     {Entry::Symlink, "Contents/current", "drift-ui"}};
 const WrittenRow kWrittenRows[] = {
@@ -288,17 +286,16 @@ TEST_P(ExtractorWrites, AsInThePackagesOrder)
         entries.push_back({Entry::File, "busy" + std::to_string(i), std::string(256 << 10, 'b')});
     entries.insert(entries.end(), row.entries.begin(), row.entries.end());
     const std::string archive = make(entries, row.format);
-    const Lines& errors = row.errors;
-    const size_t written = errors.empty() ? row.entries.size() : row.written;
+    const size_t written = row.errors.empty() ? row.entries.size() : row.written;
     for (const int threads : {0, 3}) {
         SCOPED_TRACE(threads ? "on writers" : "in order");
         fs::remove_all(dest);
         dwtest::WriteFile(dest + "/full/keep", "kept");
         writers = threads;
         const Outcome out = run(archive, dest);
-        EXPECT_EQ(out.result, errors.empty() ? 0 : -1);
+        EXPECT_EQ(out.result, row.errors.empty() ? 0 : -1);
         EXPECT_EQ(out.texts, std::vector<QString>{kInitializing});
-        EXPECT_EQ(out.log, Logged(archive, dest, errors));
+        EXPECT_EQ(out.log, Logged(archive, dest, row.errors));
         Pairs progress = Upto(entries.size(), kBusy + written);
         if (row.racy && threads > 0)
             progress.resize(std::min(progress.size(), out.progress.size()));
@@ -418,8 +415,12 @@ TEST_F(ExtractorTest, FailsBeforeWritingAnything)
     const auto package = [](const std::string& path) {
         return "[WARNING] extractor(#): '" + path + "' is not a regular file, refused";
     };
-    const auto entry = [](const char* name, const char* kind) {
-        return "[WARNING] extractor(#): entry '" + std::string(name) + "' is " + kind +
+    // A package of one entry "x" of the given type, and what the log says of such an entry.
+    const auto special = [&](int type, int format = kPax) {
+        return make({{Entry::File, "x", "", type}}, format);
+    };
+    const auto entry = [](const std::string& kind) {
+        return "[WARNING] extractor(#): entry 'x' is " + kind +
                ", refused: a package holds only files, folders and links";
     };
     const struct {
@@ -450,17 +451,11 @@ TEST_F(ExtractorTest, FailsBeforeWritingAnything)
         {"dots_and_slashes", make({{Entry::Symlink, "/./", "elsewhere"}}), {itself + "/./" + refused}},
         {"fifo_package", fifo, {package(fifo), failed + "-1"}},
         {"dev_zero_package", zero, {package(zero), failed + "-1"}},
-        {"char_device_entry",
-         make({{Entry::File, "c", "", AE_IFCHR | 0644}}),
-         {entry("c", "a character device")}},
-        {"block_device_entry",
-         make({{Entry::File, "b", "", AE_IFBLK | 0644}}),
-         {entry("b", "a block device")}},
-        {"fifo_entry", make({{Entry::File, "p", "", AE_IFIFO | 0644}}), {entry("p", "a FIFO")}},
+        {"char_device_entry", special(AE_IFCHR), {entry("a character device")}},
+        {"block_device_entry", special(AE_IFBLK), {entry("a block device")}},
+        {"fifo_entry", special(AE_IFIFO), {entry("a FIFO")}},
         // Only cpio stores a socket.
-        {"socket_entry",
-         make({{Entry::File, "s", "", AE_IFSOCK | 0644}}, ARCHIVE_FORMAT_CPIO_SVR4_NOCRC),
-         {entry("s", "a socket")}},
+        {"socket_entry", special(AE_IFSOCK, ARCHIVE_FORMAT_CPIO_SVR4_NOCRC), {entry("a socket")}},
         {"empty_archive_path", "", invalid},
     };
     for (const auto& row : rows) {
@@ -478,7 +473,7 @@ TEST_F(ExtractorTest, FailsBeforeWritingAnything)
     EXPECT_EQ(run(make({}), "").log, invalid);
 }
 
-TEST_F(ExtractorTest, ReplacesFilesKeepsFoldersAndWritesNothingOutside)
+TEST_F(ExtractorTest, ReplacesFilesKeepsFoldersAndWritesNothingOutsideTheDestination)
 {
     // The destination is reached through a symlink, which must stay one.
     const std::string via = tmp_.file("via");
@@ -518,17 +513,15 @@ TEST_F(ExtractorTest, ReplacesFilesKeepsFoldersAndWritesNothingOutside)
                                     {"sub", "<dir>"},
                                     {"sub/h", "package"}}));
     EXPECT_TRUE(fs::equivalent(dest + "/a", dest + "/sub/h"));
-}
 
-TEST_F(ExtractorTest, WritesIntoADestinationThatDoesNotExistYet)
-{
-    // No folder to make the thread's own: the entries go by absolute path.
+    // A destination that does not exist yet is no folder to make the thread's
+    // own: the entries go by absolute path.
     const std::string fresh = tmp_.file("fresh/app");
-    const Outcome out = run(make({{Entry::Folder, "dir", ""}, {Entry::File, "dir/f", "x"}}), fresh);
-    EXPECT_EQ(out.result, 0);
+    const Outcome made = run(make({{Entry::Folder, "dir", ""}, {Entry::File, "dir/f", "x"}}), fresh);
+    EXPECT_EQ(made.result, 0);
     EXPECT_EQ(Snapshot(fresh), (Tree{{"dir", "<dir>"}, {"dir/f", "x"}}));
-    EXPECT_EQ(out.inside, std::vector<fs::path>(2, outside));
-    EXPECT_EQ(out.cwd_after, outside);
+    EXPECT_EQ(made.inside, std::vector<fs::path>(2, outside));
+    EXPECT_EQ(made.cwd_after, outside);
 }
 
 }  // namespace
