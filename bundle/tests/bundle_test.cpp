@@ -21,13 +21,10 @@
 
 namespace {
 
-using dwtest::ReadFile;
-using dwtest::WriteFile;
-
 struct Package {
     int format = 0;
     int filter = 0;
-    std::vector<std::string> names;  // folders without their trailing '/'
+    std::vector<std::string> names;
     mode_t client_mode = 0;
     std::string info;
 };
@@ -41,9 +38,7 @@ Package ReadBack(const QString& path)
     EXPECT_EQ(ARCHIVE_OK, archive_read_open_filename(a, QFile::encodeName(path).constData(), 10240));
     archive_entry* entry;
     while (archive_read_next_header(a, &entry) == ARCHIVE_OK) {
-        std::string name = archive_entry_pathname(entry);
-        if (!name.empty() && name.back() == '/')
-            name.pop_back();
+        const std::string name = archive_entry_pathname(entry);
         package.names.push_back(name);
         if (name == "Contents/MacOS/drift-ui")
             package.client_mode = archive_entry_perm(entry);
@@ -65,9 +60,9 @@ TEST(MakePackage, WritesSortedEntriesWithTheVersionRecordLastAndTheSameBytesEach
     QTemporaryDir dir;
     ASSERT_TRUE(dir.isValid());
     const QString root = dir.path() + "/root";
-    ASSERT_TRUE(WriteFile(root + "/Contents/MacOS/drift-ui", "#!/bin/sh\n", 0755));
-    ASSERT_TRUE(WriteFile(root + "/Contents/Resources/INFO", "[Version]\nbuild_version=7\n"));
-    ASSERT_TRUE(WriteFile(root + "/Contents/Resources/images/icon.png", QByteArray(3000, 'x')));
+    ASSERT_TRUE(dwtest::WriteFile(root + "/Contents/MacOS/drift-ui", "#!/bin/sh\n", 0755));
+    ASSERT_TRUE(dwtest::WriteFile(root + "/Contents/Resources/INFO", "[Version]\nbuild_version=7\n"));
+    ASSERT_TRUE(dwtest::WriteFile(root + "/Contents/Resources/images/icon.png", QByteArray(3000, 'x')));
     ASSERT_TRUE(QFile::link("images", root + "/Contents/Resources/current"));
 
     const struct {
@@ -86,7 +81,7 @@ TEST(MakePackage, WritesSortedEntriesWithTheVersionRecordLastAndTheSameBytesEach
         const QString second = dir.path() + "/second." + row.format;
         ASSERT_EQ(0, QProcess::execute(MAKE_PACKAGE_EXE, {row.format, first, root}));
         ASSERT_EQ(0, QProcess::execute(MAKE_PACKAGE_EXE, {row.format, second, root}));
-        EXPECT_EQ(ReadFile(first), ReadFile(second));
+        EXPECT_EQ(dwtest::ReadFile(first), dwtest::ReadFile(second));
 
         const Package package = ReadBack(first);
         EXPECT_EQ(row.archive_format, package.format);
@@ -114,7 +109,7 @@ TEST(DemoBundle, CarriesWhatTheLauncherReads)
     const Package package = ReadBack(resources + "/package/driftwell.tpk");
     ASSERT_FALSE(package.names.empty());
     EXPECT_EQ("Contents/Resources/INFO", package.names.back());
-    EXPECT_EQ(ReadFile(resources + "/INFO").toStdString(), package.info);
+    EXPECT_EQ(dwtest::ReadFile(resources + "/INFO").toStdString(), package.info);
     EXPECT_TRUE(package.client_mode & S_IXUSR);
 }
 

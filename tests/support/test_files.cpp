@@ -8,10 +8,9 @@
 #include <cerrno>
 #include <chrono>
 #include <climits>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
+#include <iterator>
 #include <thread>
 
 namespace fs = std::filesystem;
@@ -29,8 +28,7 @@ TempDir::TempDir(const std::string& base)
 TempDir::~TempDir()
 {
     std::error_code ignored;
-    if (ok())
-        fs::remove_all(path_, ignored);
+    fs::remove_all(path_, ignored);
 }
 
 bool Exists(const std::string& path)
@@ -41,9 +39,8 @@ bool Exists(const std::string& path)
 
 std::string ReadFile(const std::string& path)
 {
-    std::ostringstream out;
-    out << std::ifstream(path, std::ios::binary).rdbuf();
-    return out.str();
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
 }
 
 bool WriteFile(const std::string& path, const std::string& data, int mode)
@@ -61,9 +58,8 @@ std::string Shown(const std::string& data)
 {
     if (data.size() < 256)
         return data;
-    char digest[24];
-    snprintf(digest, sizeof digest, "%016zx", std::hash<std::string>()(data));
-    return "<" + std::to_string(data.size()) + " bytes #" + digest + ">";
+    return "<" + std::to_string(data.size()) + " bytes #" + std::to_string(std::hash<std::string>()(data)) +
+           ">";
 }
 
 Tree Snapshot(const std::string& root)
@@ -72,12 +68,9 @@ Tree Snapshot(const std::string& root)
     std::error_code ec;
     for (fs::recursive_directory_iterator it(root, ec), end; !ec && it != end; it.increment(ec)) {
         const std::string rel = it->path().lexically_relative(root).string();
-        if (it->is_symlink())
-            tree[rel] = "-> " + fs::read_symlink(it->path()).string();
-        else if (it->is_directory())
-            tree[rel] = "<dir>";
-        else
-            tree[rel] = Shown(ReadFile(it->path().string()));
+        tree[rel] = it->is_symlink()     ? "-> " + fs::read_symlink(it->path()).string()
+                    : it->is_directory() ? "<dir>"
+                                         : Shown(ReadFile(it->path().string()));
     }
     return tree;
 }
@@ -88,20 +81,10 @@ Tree TreeOf(const std::vector<Entry>& entries)
     for (const Entry& e : entries) {
         for (size_t slash = e.name.find('/'); slash != std::string::npos; slash = e.name.find('/', slash + 1))
             tree[e.name.substr(0, slash)] = "<dir>";
-        switch (e.kind) {
-        case Entry::File:
-            tree[e.name] = Shown(e.data);
-            break;
-        case Entry::Folder:
-            tree[e.name] = "<dir>";
-            break;
-        case Entry::Symlink:
-            tree[e.name] = "-> " + e.data;
-            break;
-        case Entry::Hardlink:
-            tree[e.name] = tree[e.data];
-            break;
-        }
+        tree[e.name] = e.kind == Entry::File      ? Shown(e.data)
+                       : e.kind == Entry::Folder  ? "<dir>"
+                       : e.kind == Entry::Symlink ? "-> " + e.data
+                                                  : tree[e.data];
     }
     return tree;
 }
