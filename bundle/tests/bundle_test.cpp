@@ -94,6 +94,9 @@ TEST(MakePackage, WritesSortedEntriesWithTheVersionRecordLastAndTheSameBytesEach
         EXPECT_EQ(0755u, package.client_mode);
         EXPECT_EQ("[Version]\nbuild_version=7\n", package.info);
     }
+    // A folder in the way of the partial package: no package is claimed.
+    ASSERT_TRUE(QDir().mkpath(dir.path() + "/p.tar.part"));
+    EXPECT_NE(0, QProcess::execute(MAKE_PACKAGE_EXE, {"tar", dir.path() + "/p.tar", root}));
 }
 
 // What the launcher reads from its bundle, and a package whose record equals

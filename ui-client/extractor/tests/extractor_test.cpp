@@ -387,6 +387,17 @@ TEST_P(ExtractorCounts, CountsBesideTheExtraction)
     EXPECT_EQ(Snapshot(dest).size(), row.written + (row.cut > 0) + (row.errors.empty() ? 2u : 0u));
     EXPECT_EQ(dwtest::Exists(dest + "/Contents/Resources/INFO"), row.errors.empty());
     EXPECT_EQ(dwtest::ReadFile(dest + "/first"), "1");
+    if (row.errors.empty()) {
+        Extractor walk;
+        walk.archive_path = archive.c_str();
+        walk.dest_path = dest.c_str();
+        EXPECT_EQ(walk.Count(), row.total);
+        testing::internal::CaptureStdout();
+        EXPECT_EQ(walk.List(), 0);
+        const std::string names = testing::internal::GetCapturedStdout();
+        EXPECT_EQ(std::count(names.begin(), names.end(), '\n'), row.total);
+        EXPECT_EQ(names.substr(0, 6), "first\n");
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Packages, ExtractorCounts, testing::ValuesIn(kCountRows), dwtest::RowName());
