@@ -392,6 +392,7 @@ TEST_P(ExtractorCounts, CountsBesideTheExtraction)
         walk.archive_path = archive.c_str();
         walk.dest_path = dest.c_str();
         EXPECT_EQ(walk.Count(), row.total);
+        fflush(stdout);  // GoogleTest's own lines stay out
         testing::internal::CaptureStdout();
         EXPECT_EQ(walk.List(), 0);
         const std::string names = testing::internal::GetCapturedStdout();
