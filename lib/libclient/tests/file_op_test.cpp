@@ -15,7 +15,6 @@
 #include <cerrno>
 #include <ctime>
 #include <filesystem>
-#include <fstream>
 #include <map>
 #include <set>
 #include <string>
@@ -31,16 +30,8 @@ using dwtest::ReadFile;
 using dwtest::WriteFile;
 
 // Links are described, not followed.
-bool IsDir(const std::string& path)
-{
-    return fs::is_directory(fs::symlink_status(path));
-}
-
-mode_t ModeOf(const std::string& path)
-{
-    struct stat st;
-    return lstat(path.c_str(), &st) == 0 ? (st.st_mode & 07777) : 0;
-}
+const auto IsDir = [](const std::string& path) { return fs::is_directory(fs::symlink_status(path)); };
+const auto ModeOf = [](const std::string& path) { return mode_t(fs::symlink_status(path).permissions()); };
 
 class FileOpTest : public ::testing::Test {
 protected:
@@ -70,11 +61,8 @@ TEST_F(FileOpTest, IsFileExistMatchesExactSpellingOnly)
     fs::create_symlink(P("file"), P("link"));
     ASSERT_EQ(chdir(dir.c_str()), 0);
 
-    struct Row {
-        const char* name;
-        std::string path;
-        bool plain, exact;
-    } rows[] = {
+    using Row = std::tuple<const char*, std::string, bool, bool>;  // name, path, plain, exact
+    const Row rows[] = {
         {"folder", dir, true, true},
         {"trailing slash", dir + "/", true, false},
         {"slash dot", dir + "/.", true, false},
@@ -83,9 +71,9 @@ TEST_F(FileOpTest, IsFileExistMatchesExactSpellingOnly)
         {"decomposed folder", P(nfd + "/f"), true, true},
         {"composed spelling of decomposed folder", P(nfc + "/f"), false, false},
     };
-    for (const Row& r : rows) {
-        EXPECT_EQ(IsFileExist(r.path.c_str(), false), r.plain) << r.name;
-        EXPECT_EQ(IsFileExist(r.path.c_str(), true), r.exact) << r.name;
+    for (const auto& [name, path, plain, exact] : rows) {
+        EXPECT_EQ(IsFileExist(path.c_str(), false), plain) << name;
+        EXPECT_EQ(IsFileExist(path.c_str(), true), exact) << name;
     }
     ASSERT_EQ(chdir("/"), 0);
 }
@@ -97,10 +85,9 @@ TEST_F(FileOpTest, RealPathSpellsExistingObjectsAbsolutelyAndLeavesOtherPathsAlo
     WriteFile(P("sub/file"), "x");
     ASSERT_EQ(mkfifo(P("fifo").c_str(), 0600), 0);
     ASSERT_EQ(chdir(P("sub").c_str()), 0);
-    const struct {
-        const char* name;
-        std::string path, real;  // real empty: fails, the path unchanged
-    } rows[] = {
+    using Row = std::tuple<const char*, std::string, std::string>;  // name, path, real path
+    const Row rows[] = {
+        // real path empty: fails, the path unchanged
         {"dots and a link", dir + "/./link/../link", P("sub")},
         {"relative", "../link/file", P("sub/file")},
         {"fifo, never opened for reading", P("fifo"), P("fifo")},
@@ -108,10 +95,10 @@ TEST_F(FileOpTest, RealPathSpellsExistingObjectsAbsolutelyAndLeavesOtherPathsAlo
         {"empty", "", ""},
         {"file taken for a folder", P("sub/file/"), ""},
     };
-    for (const auto& r : rows) {
-        ustring path = r.path.c_str();
-        EXPECT_EQ(FSGetRealPath(path), r.real.empty() ? kFSFailed : kFSOk) << r.name;
-        EXPECT_EQ(path, ustring((r.real.empty() ? r.path : r.real).c_str())) << r.name;
+    for (const auto& [name, given, real] : rows) {
+        ustring path = given.c_str();
+        EXPECT_EQ(FSGetRealPath(path), real.empty() ? kFSFailed : kFSOk) << name;
+        EXPECT_EQ(path, ustring((real.empty() ? given : real).c_str())) << name;
     }
     ASSERT_EQ(chdir("/"), 0);
 }
@@ -144,9 +131,7 @@ TEST_F(FileOpTest, CopyHandlesLargeAndEmptyFilesAndReportsAFullDevice)
 {
     // Larger than the 32 MiB buffer, so the copy takes two reads.
     const off_t big = 33554432 + 3;
-    WriteFile(P("big"), "");
-    ASSERT_EQ(truncate(P("big").c_str(), big - 3), 0);
-    std::ofstream(P("big"), std::ios::app) << "end";
+    ASSERT_TRUE(WriteFile(P("big"), std::string(big - 3, '\0') + "end"));
     ASSERT_EQ(FSCopy(P("big"), P("big.copy"), false), kFSOk);
     EXPECT_EQ(ReadFile(P("big.copy")).substr(big - 4), std::string(1, '\0') + "end");
 
@@ -213,13 +198,10 @@ TEST_F(FileOpTest, MoveAcrossFileSystemsCopiesFilesTreesAndLinksButNotFifos)
     const dwtest::TempDir shm("/dev/shm");
     const std::string& other = shm.path();
     ASSERT_TRUE(shm.ok());
-    auto make = [](const std::string& root) {
-        WriteFile(root + "/file", "contents");
-        MakeTree(root + "/tree");
-        fs::create_symlink("../some/target", root + "/alone");
-    };
-    make(dir);
-    make(P("expected"));
+    WriteFile(P("file"), "contents");
+    MakeTree(P("tree"));
+    fs::create_symlink("../some/target", P("alone"));
+    const dwtest::Tree expected = dwtest::Snapshot(dir);
     ASSERT_EQ(mkfifo(P("fifo").c_str(), 0600), 0);
     ASSERT_EQ(chmod(P("file").c_str(), 0600) | chmod(P("tree/sub").c_str(), 0700), 0);
 
@@ -235,7 +217,7 @@ TEST_F(FileOpTest, MoveAcrossFileSystemsCopiesFilesTreesAndLinksButNotFifos)
     EXPECT_EQ(FSRename(P("fifo"), other + "/fifo", false), kFSRenameFailed);
     EXPECT_TRUE(Exists(P("fifo")));
     // All of it, links as they were, and no fifo.
-    EXPECT_EQ(dwtest::Snapshot(other), dwtest::Snapshot(P("expected")));
+    EXPECT_EQ(dwtest::Snapshot(other), expected);
 }
 
 TEST_F(FileOpTest, MakeFolderAcceptsOnlyRealFoldersAndWithParentsReportsErrnoOrForcesItsWay)
@@ -243,13 +225,8 @@ TEST_F(FileOpTest, MakeFolderAcceptsOnlyRealFoldersAndWithParentsReportsErrnoOrF
     fs::create_directories(P("folder"));
     WriteFile(P("file"), "x");
     fs::create_symlink("folder", P("link"));
-    struct Row {
-        const char* name;
-        std::string path;
-        bool parents;
-        int result;
-        bool made;
-    } rows[] = {
+    using Row = std::tuple<const char*, std::string, bool, int, bool>;  // name, path, parents, result, made
+    const Row rows[] = {
         {"existing folder", P("folder"), false, kFSOk, true},
         {"existing file", P("file"), true, kFSMKDirBadPath, false},
         {"link to a folder", P("link"), true, kFSMKDirBadPath, false},
@@ -257,9 +234,9 @@ TEST_F(FileOpTest, MakeFolderAcceptsOnlyRealFoldersAndWithParentsReportsErrnoOrF
         {"with parents", P("a/b/c"), true, kFSOk, true},
         {"single", P("one"), false, kFSOk, true},
     };
-    for (const Row& r : rows) {
-        EXPECT_EQ(FSMKDir(r.path.c_str(), r.parents), r.result) << r.name;
-        EXPECT_EQ(IsDir(r.path), r.made) << r.name;
+    for (const auto& [name, path, parents, result, made] : rows) {
+        EXPECT_EQ(FSMKDir(path.c_str(), parents), result) << name;
+        EXPECT_EQ(IsDir(path), made) << name;
     }
 
     const char* end = nullptr;
@@ -292,10 +269,8 @@ TEST_F(FileOpTest, MakeFolderWithModeLeavesTheUmaskAlone)
         while (!done) {
             const int before = calls;
             const int fd = open(file.c_str(), O_CREAT | O_EXCL | O_WRONLY, 0666);
-            struct stat st;
-            if (fd >= 0 && fstat(fd, &st) == 0) {
-                created.insert(st.st_mode & 07777);
-            }
+            if (fd >= 0)
+                created.insert(ModeOf(file));
             close(fd);
             unlink(file.c_str());
             inside += before % 2 == 1 && calls == before;

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <tuple>
 
 #include "config.h"
 #include "test_files.h"
@@ -15,12 +16,8 @@ using Entries = decltype(Config::entries);
 TEST(ConfigRead, FileFormatTable)
 {
     const std::string x8189(8189, 'x');
-    const struct {
-        const char* name;
-        std::string text;
-        int result;
-        Entries entries;
-    } rows[] = {
+    using Row = std::tuple<const char*, std::string, int, Entries>;  // name, text, result, entries
+    const Row rows[] = {
         {"empty_file", "", 0, {}},
         {"comments_and_blank_lines", "# a\n\n   \n\t# b = c\n", 0, {}},
         {"pid_file", "pid=812\n", 0, {{"pid", "812"}}},
@@ -44,12 +41,12 @@ TEST(ConfigRead, FileFormatTable)
 
     dwtest::TempDir dir;
     ASSERT_TRUE(dir.ok());
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        dwtest::WriteFile(dir.file(row.name), row.text);
+    for (const auto& [name, text, result, entries] : rows) {
+        SCOPED_TRACE(name);
+        dwtest::WriteFile(dir.file(name), text);
         Config c;
-        EXPECT_EQ(c.read(dir.file(row.name).c_str()), row.result);
-        EXPECT_EQ(c.entries, row.entries);
+        EXPECT_EQ(c.read(dir.file(name).c_str()), result);
+        EXPECT_EQ(c.entries, entries);
     }
 }
 
@@ -77,11 +74,9 @@ TEST(ConfigRead, MalformedLineEmptiesAlsoEarlierEntriesButNoFileKeepsThem)
 TEST(ConfigRead, OnlyASmallRegularFileIsRead)
 {
     const std::string most = "a=1\n" + std::string(Config::kMaxFileSize - 4, '#');
-    const struct {
-        const char* name;
-        std::function<bool(const std::string&)> make;
-        const char* refused;  // null: read
-    } rows[] = {
+    // name, how the file is made, why it is refused (null: read)
+    using Row = std::tuple<const char*, std::function<bool(const std::string&)>, const char*>;
+    const Row rows[] = {
         {"fifo", [](const std::string& p) { return mkfifo(p.c_str(), 0600) == 0; }, "not a regular file"},
         {"link_to_dev_zero", [](const std::string& p) { return symlink("/dev/zero", p.c_str()) == 0; },
          "not a regular file"},
@@ -94,15 +89,15 @@ TEST(ConfigRead, OnlyASmallRegularFileIsRead)
     dwtest::TempDir dir;
     ASSERT_TRUE(dir.ok());
     alarm(60);  // a read that blocks ends the test instead of hanging it
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        ASSERT_TRUE(row.make(dir.file(row.name)));
+    for (const auto& [name, make, why] : rows) {
+        SCOPED_TRACE(name);
+        ASSERT_TRUE(make(dir.file(name)));
         Config c;
         c.entries["kept"] = "1";
         ustring refused;
-        EXPECT_EQ(c.read(dir.file(row.name).c_str(), &refused), row.refused ? -1 : 0);
-        EXPECT_STREQ(refused.c_str(), row.refused ? row.refused : "");
-        EXPECT_EQ(c.entries.count("a"), row.refused ? 0u : 1u);
+        EXPECT_EQ(c.read(dir.file(name).c_str(), &refused), why ? -1 : 0);
+        EXPECT_STREQ(refused.c_str(), why ? why : "");
+        EXPECT_EQ(c.entries.count("a"), why ? 0u : 1u);
         EXPECT_EQ(c.entries["kept"], "1");
     }
     alarm(0);
@@ -110,14 +105,11 @@ TEST(ConfigRead, OnlyASmallRegularFileIsRead)
 
 TEST(ConfigGetInt, ReadsLeadingDecimalIntAndAddsMissingKey)
 {
-    const struct {
-        const char* value;
-        int expected;
-    } rows[] = {{"7", 7}, {"12ab", 12}, {"abc", 0}, {"", 0}, {"-5", -5}, {" +3", 3}};
     Config c;
-    for (const auto& row : rows) {
-        c.entries["k"] = row.value;
-        EXPECT_EQ(c.get_int("k"), row.expected) << row.value;
+    for (auto [value, expected] :
+         {std::pair{"7", 7}, {"12ab", 12}, {"abc", 0}, {"", 0}, {"-5", -5}, {" +3", 3}}) {
+        c.entries["k"] = value;
+        EXPECT_EQ(c.get_int("k"), expected) << value;
     }
     EXPECT_EQ(c.get_int("missing"), 0);
     EXPECT_EQ(c.entries, (Entries{{"k", " +3"}, {"missing", ""}}));

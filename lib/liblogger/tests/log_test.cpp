@@ -8,7 +8,6 @@
 #include <chrono>
 #include <cstring>
 #include <filesystem>
-#include <functional>
 #include <numeric>
 #include <regex>
 #include <set>
@@ -141,10 +140,8 @@ struct GarbageRow : dwtest::Row {
 };
 
 const GarbageRow kGarbageRows[] = {
-    {"malformed",
-     "\x7f"
-     "ELF\x01 launcher_debug = 7\n[section]\n",
-     "' is malformed, default levels apply", false},
+    {"malformed", "\177ELF\001 launcher_debug = 7\n[section]\n", "' is malformed, default levels apply",
+     false},
     {"not_a_number", "launcher_debug = loud\n", "': level of 'launcher_debug' is not a number, read as 0",
      true},
     {"digits_then_letters", "launcher_debug = 4x\n",
@@ -212,25 +209,14 @@ TEST_F(LoggerTest, FailedRotationStopsLogging)
 // nothing, gives way to the log itself and what it named stays as it was. So
 // does a FIFO (read here, so that the unfixed open cannot block).
 struct PlantedRow : dwtest::Row {
-    std::function<int(const std::string& log, const std::string& theirs)>
-        plant;           // a reader's fd or 0; -1: failed
-    const char* theirs;  // what is at the other name afterwards; null: nothing
+    const char* theirs;  // the file a link names, null: none
+    bool fifo;           // instead of a link
 };
 
 const PlantedRow kPlantedRows[] = {
-    {"link_to_a_file",
-     [](const std::string& log, const std::string& theirs) {
-         return WriteFile(theirs, "theirs\n") && symlink(theirs.c_str(), log.c_str()) == 0 ? 0 : -1;
-     },
-     "theirs\n"},
-    {"dangling_link",
-     [](const std::string& log, const std::string& theirs) { return symlink(theirs.c_str(), log.c_str()); },
-     nullptr},
-    {"fifo",
-     [](const std::string& log, const std::string&) {
-         return mkfifo(log.c_str(), 0600) == 0 ? open(log.c_str(), O_RDONLY | O_NONBLOCK) : -1;
-     },
-     nullptr},
+    {"link_to_a_file", "theirs\n", false},
+    {"dangling_link", nullptr, false},
+    {"fifo", nullptr, true},
 };
 
 class LoggerPlanted : public LoggerTest, public testing::WithParamInterface<PlantedRow> {};
@@ -238,7 +224,12 @@ class LoggerPlanted : public LoggerTest, public testing::WithParamInterface<Plan
 TEST_P(LoggerPlanted, ALinkOrSpecialFileAtTheLogsNameIsReplacedNotFollowed)
 {
     const std::string theirs = dir.file("theirs");
-    const int reader = GetParam().plant(log, theirs);
+    const PlantedRow& row = GetParam();
+    ASSERT_TRUE(!row.theirs || WriteFile(theirs, row.theirs));
+    // The reader's descriptor, or 0 for a link.
+    const int reader = !row.fifo                        ? symlink(theirs.c_str(), log.c_str())
+                       : mkfifo(log.c_str(), 0600) == 0 ? open(log.c_str(), O_RDONLY | O_NONBLOCK)
+                                                        : -1;
     ASSERT_GE(reader, 0);
     ASSERT_EQ(Logger::Initialize(Logger::LOG_TYPE_FILE, log.c_str(), "", 50), 0);
     Logger::LogMsg(Logger::LOG_WARNING, "c", "[WARNING] log_test(%d): here\n", 1);
@@ -252,8 +243,7 @@ TEST_P(LoggerPlanted, ALinkOrSpecialFileAtTheLogsNameIsReplacedNotFollowed)
                          "' was a link or a special file; replaced by the log, nothing it named "
                          "was touched",
                      "[WARNING] log_test(#): here"}));
-    EXPECT_EQ(dwtest::Exists(theirs) ? ReadFile(theirs) : "<nothing>",
-              GetParam().theirs ? GetParam().theirs : "<nothing>");
+    EXPECT_EQ(dwtest::Exists(theirs) ? ReadFile(theirs) : "<nothing>", row.theirs ? row.theirs : "<nothing>");
 }
 
 INSTANTIATE_TEST_SUITE_P(Names, LoggerPlanted, testing::ValuesIn(kPlantedRows), dwtest::RowName());
