@@ -141,8 +141,9 @@ TEST_F(FileOpTest, CopyHandlesLargeAndEmptyFilesAndReportsAFullDevice)
     EXPECT_FALSE(Exists(P("empty")));
     EXPECT_EQ(ReadFile(P("dst")), "");
 
-    if (access("/dev/full", W_OK) != 0)
+    if (access("/dev/full", W_OK) != 0) {
         GTEST_SKIP() << "/dev/full is not available";
+    }
     EXPECT_EQ(FSCopy(P("big"), "/dev/full", true), kFSCopyNoSpace);
     EXPECT_TRUE(Exists(P("big")));  // the source stays on failure
 
@@ -191,8 +192,9 @@ TEST_F(FileOpTest, MoveKeepsTheSourceWhenTheFlushFails)
 TEST_F(FileOpTest, MoveAcrossFileSystemsCopiesFilesTreesAndLinksButNotFifos)
 {
     struct stat a, b;
-    if (stat(dir.c_str(), &a) != 0 || stat("/dev/shm", &b) != 0 || a.st_dev == b.st_dev)
+    if (stat(dir.c_str(), &a) != 0 || stat("/dev/shm", &b) != 0 || a.st_dev == b.st_dev) {
         GTEST_SKIP() << "the temp folder and /dev/shm are not two file systems";
+    }
     const dwtest::TempDir shm("/dev/shm");
     const std::string& other = shm.path();
     ASSERT_TRUE(shm.ok());
@@ -441,16 +443,18 @@ TEST_F(FileOpTest, ReadFolderListsDotsAndStatusOnlyWhenAsked)
                               {"sub", {FILE_TYPE_DIR, sub.st_mtime, sub.st_size}},
                               {"link", {FILE_TYPE_LINK, 0, 0}}};
     Listing bare = withStat;
-    for (auto& [name, entry] : bare)
+    for (auto& [name, entry] : bare) {
         entry = {std::get<0>(entry), 0, 0};
+    }
     for (auto [flags, expected] : {std::pair{0, bare}, {FS_DIR_WITH_STAT, withStat}}) {
         DIR_HANDLE h;
         ASSERT_EQ(FSOpenDir(dir.c_str(), flags, h), kFSOk);
         Listing listed;
         DIR_ENTRY e;
         int r;
-        while ((r = FSReadDir(h, e)) == kFSReadDirEntry)
+        while ((r = FSReadDir(h, e)) == kFSReadDirEntry) {
             listed[e.name.c_str()] = {e.type, e.mtime, e.size};
+        }
         FSCloseDir(h);
         EXPECT_EQ(r, kFSReadDirEnd);
         EXPECT_EQ(listed, expected) << "flags " << flags;
