@@ -15,12 +15,12 @@
 #include <sys/wait.h>
 #include <unistd.h>
 #include <cerrno>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 
 #include "log.h"
 #include "mac-service.h"
@@ -46,11 +46,10 @@ int Run(MacService& service, int argc, char** argv)
     } else if (strcmp(command, "upgrade") == 0 || strcmp(command, "upgrade-losing-backup") == 0) {
         printf("%d\n", service.HandlePackageUpgrade());
     } else if (strcmp(command, "stop") == 0) {
-        const auto start = std::chrono::steady_clock::now();
+        QElapsedTimer timer;
+        timer.start();
         service.StopService();
-        const auto elapsed = std::chrono::steady_clock::now() - start;
-        printf("%lld\n", static_cast<long long>(
-                             std::chrono::duration_cast<std::chrono::milliseconds>(elapsed).count()));
+        printf("%lld\n", static_cast<long long>(timer.elapsed()));
     } else if (strcmp(command, "launch") == 0) {
         service.PostUpgrade();
         // A detached client is not ours, and the intermediate process is reaped.

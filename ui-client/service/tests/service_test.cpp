@@ -617,8 +617,12 @@ TEST_F(ServiceTest, CopyPathCopiesTreesAndAnUnlistableFolderAsAnEmptyOne)
         ASSERT_TRUE(ChownTree(root_, kNobody));
         uid = kNobody;
     }
-    const std::string dst = root_ + "/copy";
-    EXPECT_EQ(Run({"copy", QString::fromStdString(src), QString::fromStdString(dst)}, uid), "0");
+    const auto copy = [&](const std::string& to) {
+        return Run({"copy", QString::fromStdString(src), QString::fromStdString(to)}, uid);
+    };
+    // The destination's parents are made as needed.
+    const std::string dst = root_ + "/new/parents/copy";
+    EXPECT_EQ(copy(dst), "0");
     chmod((src + "/locked").c_str(), 0700);
     EXPECT_EQ(Snapshot(dst), (Tree{{"a.txt", "a"},
                                    {"locked", "<dir>"},
@@ -628,6 +632,11 @@ TEST_F(ServiceTest, CopyPathCopiesTreesAndAnUnlistableFolderAsAnEmptyOne)
     EXPECT_THAT(ServiceLog(),
                 Contains("[WARNING] drift-service(#): FSCopyPath: failed to create handle  for src '" + src +
                          "/locked' failed"));
+    // Below a regular file no folder can be made.
+    EXPECT_EQ(copy(src + "/a.txt/copy"), "-1");
+    EXPECT_THAT(ServiceLog(),
+                Contains("[ERROR] drift-service(#): FSCopyPath: failed to create dest folder '" + src +
+                         "/a.txt/copy'"));
 }
 
 }  // namespace
