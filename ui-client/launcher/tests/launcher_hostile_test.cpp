@@ -24,10 +24,7 @@ namespace {
 using dwtest::Snapshot;
 using dwtest::WriteFile;
 
-bool TruncatedUpgrade(TestBundle& b)
-{
-    return b.setTruncatedBuild(2);
-}
+const auto TruncatedUpgrade = [](TestBundle& b) { return b.setTruncatedBuild(2); };
 
 // An upgrade to build 2 whose client is that entry instead of its script
 // (none when its name is empty): the package extracts without a fault.
