@@ -205,10 +205,7 @@ public:
         const QString script = b_.home() + "/../limited.sh";
         const QByteArray text = "#!/bin/sh\ntrap '' XFSZ\nexec prlimit --fsize=8388608 \"" +
                                 QFile::encodeName(b_.executable()) + "\"\n";
-        if (!WriteFile(script, text) ||
-            !QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner))
-            return {};
-        return b_.run(b_.environment(), script);
+        return WriteFile(script, text, 0700) ? b_.run(b_.environment(), script) : RunResult();
     }
 
 private:
