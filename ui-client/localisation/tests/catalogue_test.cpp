@@ -74,13 +74,10 @@ QMap<QString, QList<int>> TableTexts()
     return texts;
 }
 
-struct Message {
-    QString source;
-    bool plain = true;  // no comment, no plural forms, finished
-};
-
-// The catalogue's messages as lconvert reads them from the compiled file.
-QList<Message> ListCatalogue(const QString& code)
+// The sources of the catalogue's messages as lconvert reads them from the
+// compiled file; each message must be plain: no comment, no plural forms,
+// finished.
+QStringList ListCatalogue(const QString& code)
 {
     QFile qm(":/" + code + ".qm");
     QProcess lconvert;
@@ -89,27 +86,28 @@ QList<Message> ListCatalogue(const QString& code)
     lconvert.closeWriteChannel();
     EXPECT_TRUE(lconvert.waitForFinished(60000) && lconvert.exitCode() == 0)
         << "lconvert failed: " << lconvert.readAllStandardError().constData();
-    QList<Message> messages;
+    QStringList sources;
     QXmlStreamReader xml(lconvert.readAllStandardOutput());
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement || xml.name() != QLatin1String("message"))
             continue;
-        Message m;
-        m.plain = !xml.attributes().hasAttribute("numerus");
+        bool plain = !xml.attributes().hasAttribute("numerus");
+        QString source;
         while (xml.readNextStartElement()) {
             if (xml.name() == QLatin1String("source")) {
-                m.source = xml.readElementText();
+                source = xml.readElementText();
                 continue;
             }
             // Not plain: a comment, an extra comment, numerus forms, an unfinished translation.
-            m.plain = m.plain && xml.name() == QLatin1String("translation") &&
-                      !xml.attributes().hasAttribute("type");
+            plain = plain && xml.name() == QLatin1String("translation") &&
+                    !xml.attributes().hasAttribute("type");
             xml.skipCurrentElement();
         }
-        messages.append(m);
+        EXPECT_TRUE(plain) << "comment, plural or unfinished: " << qPrintable(source);
+        sources << source;
     }
     EXPECT_FALSE(xml.hasError()) << qPrintable(xml.errorString());
-    return messages;
+    return sources;
 }
 
 // Translations that are rightly the English text, per language, with the
@@ -160,13 +158,11 @@ TEST_P(Catalogue, TranslatesExactlyTheTableTextsKeepingTheirMarkers)
 
     const QMap<QString, QList<int>> table = TableTexts();
     ASSERT_EQ(496, table.size());
-    const QList<Message> messages = ListCatalogue(code);
+    const QStringList sources = ListCatalogue(code);
     // All in context "global": each table text is found there, and there are no more.
-    for (const Message& m : messages) {
-        EXPECT_TRUE(m.plain) << "comment, plural or unfinished: " << qPrintable(m.source);
-        EXPECT_TRUE(table.contains(m.source)) << "not a table text: " << qPrintable(m.source);
-    }
-    EXPECT_EQ(496, messages.size());
+    for (const QString& source : sources)
+        EXPECT_TRUE(table.contains(source)) << "not a table text: " << qPrintable(source);
+    EXPECT_EQ(496, sources.size());
 
     QTranslator translator;
     ASSERT_TRUE(translator.load(path));
