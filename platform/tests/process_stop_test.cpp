@@ -1,12 +1,11 @@
 // Real child processes (sleep, with SIGTERM kept or ignored) stopped through
 // HeldProcess and through the fallback that goes by number; and a number
 // handed to a new process of the same program after its owner ended.
-#include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <cerrno>
 #include <csignal>
-#include <string>
+#include <fstream>
 
 #include <gtest/gtest.h>
 
@@ -47,22 +46,13 @@ int Reap(pid_t pid)
     return WIFSIGNALED(status) ? WTERMSIG(status) : 0;
 }
 
-bool Running(pid_t pid)
-{
-    return waitpid(pid, nullptr, WNOHANG) == 0;
-}
-
 // The next process this namespace makes gets pid (if it is free); needs the
 // right to set kernel.ns_last_pid.
 bool NextPidWillBe(pid_t pid)
 {
-    const int fd = open("/proc/sys/kernel/ns_last_pid", O_WRONLY | O_CLOEXEC);
-    if (fd < 0)
-        return false;
-    const std::string text = std::to_string(pid - 1);
-    const bool ok = write(fd, text.data(), text.size()) == static_cast<ssize_t>(text.size());
-    close(fd);
-    return ok;
+    std::ofstream out("/proc/sys/kernel/ns_last_pid");
+    out << pid - 1 << std::flush;
+    return out.good();
 }
 
 // Held through the pin, a child ends on SIGTERM; by number (the fallback where
@@ -84,7 +74,7 @@ TEST(ProcessStop, EndsOnSigtermOrOnlyOnSigkill)
     EXPECT_EQ(SignalIfRunning(ignores, "/bin/sh", SIGKILL), ESRCH);
     EXPECT_EQ(SignalIfRunning(ignores, kSleep, SIGTERM), 0);
     EXPECT_FALSE(ProbeForExit(ignores, kSleep, 200));
-    EXPECT_TRUE(Running(ignores));
+    EXPECT_FALSE(dwtest::ProcessGone(ignores));
     EXPECT_EQ(SignalIfRunning(ignores, kSleep, SIGKILL), 0);
     EXPECT_TRUE(ProbeForExit(ignores, kSleep, 60000));
     EXPECT_EQ(SignalIfRunning(ignores, kSleep, SIGKILL), ESRCH);
@@ -121,7 +111,7 @@ TEST(ProcessStop, HoldsNothingButTheNamedProgram)
         EXPECT_FALSE(held.WaitForExit(0));
         EXPECT_EQ(SignalIfRunning(row.pid, row.exe, SIGKILL), ESRCH);
     }
-    EXPECT_TRUE(Running(other));
+    EXPECT_FALSE(dwtest::ProcessGone(other));
     kill(other, SIGKILL);
     Reap(other);
     Reap(zombie);
@@ -150,7 +140,7 @@ TEST(ProcessStop, NumberReusedBySameProgramIsNeverSignalled)
     EXPECT_TRUE(held.WaitForExit(0));
     EXPECT_EQ(held.Signal(SIGTERM), ESRCH);
     EXPECT_EQ(held.Signal(SIGKILL), ESRCH);
-    EXPECT_TRUE(Running(second));
+    EXPECT_FALSE(dwtest::ProcessGone(second));
     kill(second, SIGKILL);
     EXPECT_EQ(Reap(second), SIGKILL);
 }

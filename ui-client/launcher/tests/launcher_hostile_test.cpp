@@ -24,10 +24,7 @@ namespace {
 using dwtest::Snapshot;
 using dwtest::WriteFile;
 
-bool TruncatedUpgrade(TestBundle& b)
-{
-    return b.setTruncatedBuild(2);
-}
+const auto TruncatedUpgrade = [](TestBundle& b) { return b.setTruncatedBuild(2); };
 
 // An upgrade to build 2 whose client is that entry instead of its script
 // (none when its name is empty): the package extracts without a fault.
@@ -208,10 +205,7 @@ public:
         const QString script = b_.home() + "/../limited.sh";
         const QByteArray text = "#!/bin/sh\ntrap '' XFSZ\nexec prlimit --fsize=8388608 \"" +
                                 QFile::encodeName(b_.executable()) + "\"\n";
-        if (!WriteFile(script, text) ||
-            !QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner))
-            return {};
-        return b_.run(b_.environment(), script);
+        return WriteFile(script, text, 0700) ? b_.run(b_.environment(), script) : RunResult();
     }
 
 private:

@@ -21,10 +21,9 @@ const uid_t kNobody = 65534;
 // id) that another user made and nobody may read.
 bool ForeignLock(const TestBundle& b, const QString& folder)
 {
-    QCryptographicHash hash(QCryptographicHash::Sha1);
-    hash.addData(QFile::encodeName(b.executable()) + "\n" + QByteArray::number(getuid()));
+    const QByteArray id = QFile::encodeName(b.executable()) + "\n" + QByteArray::number(getuid());
     const QByteArray lock = QFile::encodeName(folder) + "/driftwell-launcher-" +
-                            hash.result().toHex().left(16) + ".lock";
+                            QCryptographicHash::hash(id, QCryptographicHash::Sha1).toHex().left(16) + ".lock";
     return dwtest::WriteFile(lock.toStdString(), "", 0) &&
            (getuid() != 0 || lchown(lock.constData(), kNobody, kNobody) == 0);
 }

@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QtGlobal>
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #include <QTextCodec>
@@ -52,18 +53,16 @@ std::function<bool(TestBundle&, Start&)> AccountHome(const char* home)
             s.env.remove("HOME");
         else
             s.env.insert("HOME", home);
-        QByteArray passwd;
-        for (const QByteArray& line : dwtest::ReadFile(QString("/etc/passwd")).split('\n')) {
-            QList<QByteArray> fields = line.split(':');
-            if (fields.size() == 7 && fields[2] == QByteArray::number(getuid()))
-                fields[5] = QFile::encodeName(b.home());
-            passwd += fields.join(':') + '\n';
-        }
+        // This account's line up to its home folder.
+        const QRegularExpression account(QString("^((?:[^:\n]*:){2}%1:(?:[^:\n]*:){2})[^:\n]*").arg(getuid()),
+                                         QRegularExpression::MultilineOption);
+        QString passwd = QFile::decodeName(dwtest::ReadFile(QString("/etc/passwd")));
+        passwd.replace(account, "\\1" + b.home());
         const QString copy = b.folder() + "/passwd";
         s.program = Script(
             b, "exec unshare --mount sh -c 'mount --bind \"$1\" /etc/passwd && exec \"$2\"' sh '" +
                    QFile::encodeName(copy) + "' '" + QFile::encodeName(b.executable()) + "'");
-        return dwtest::WriteFile(copy, passwd) && !s.program.isEmpty();
+        return dwtest::WriteFile(copy, QFile::encodeName(passwd)) && !s.program.isEmpty();
     };
 }
 

@@ -3,6 +3,7 @@
 // each with a translation that keeps the text's markers. LoadStr would hide a
 // missing message behind the English fall-back, so the translator is asked
 // directly and the catalogue's sources are listed by lconvert.
+#include "named_rows.h"
 #include "strtable.h"
 #include "texts_app_environment.h"
 
@@ -24,9 +25,8 @@ namespace {
 
 ::testing::Environment* const qtEnv = ::testing::AddGlobalTestEnvironment(new TextsAppEnvironment);
 
-struct Language {
-    const char* code;
-    const char* locale;  // for the month and weekday names
+struct Language : dwtest::Row {  // the catalogue's code
+    const char* locale;          // for the month and weekday names
 };
 
 const Language kLanguages[] = {
@@ -74,55 +74,40 @@ QMap<QString, QList<int>> TableTexts()
     return texts;
 }
 
-struct Message {
-    QString context;
-    QString source;
-    QString translation;
-    bool plain = true;  // no comment, no plural forms, finished
-};
-
-// The catalogue's messages as lconvert reads them from the compiled file.
-QList<Message> ListCatalogue(const QString& code, QString* error)
+// The sources of the catalogue's messages as lconvert reads them from the
+// compiled file; each message must be plain: no comment, no plural forms,
+// finished.
+QStringList ListCatalogue(const QString& code)
 {
     QFile qm(":/" + code + ".qm");
     QProcess lconvert;
     lconvert.start(DW_LCONVERT, {"-if", "qm", "-i", "-", "-of", "ts", "-o", "-"});
     lconvert.write(qm.open(QIODevice::ReadOnly) ? qm.readAll() : QByteArray());
     lconvert.closeWriteChannel();
-    if (!lconvert.waitForFinished(60000) || lconvert.exitCode() != 0) {
-        *error = "lconvert failed: " + QString::fromUtf8(lconvert.readAllStandardError());
-        return {};
-    }
-    QList<Message> messages;
-    QString context;
+    EXPECT_TRUE(lconvert.waitForFinished(60000) && lconvert.exitCode() == 0)
+        << "lconvert failed: " << lconvert.readAllStandardError().constData();
+    QStringList sources;
     QXmlStreamReader xml(lconvert.readAllStandardOutput());
     while (!xml.atEnd()) {
-        if (xml.readNext() != QXmlStreamReader::StartElement)
+        if (xml.readNext() != QXmlStreamReader::StartElement || xml.name() != QLatin1String("message"))
             continue;
-        const auto name = xml.name();
-        if (name == QLatin1String("name")) {
-            context = xml.readElementText();
-        } else if (name == QLatin1String("message")) {
-            Message m;
-            m.context = context;
-            m.plain = !xml.attributes().hasAttribute("numerus");
-            while (xml.readNextStartElement()) {
-                if (xml.name() == QLatin1String("source")) {
-                    m.source = xml.readElementText();
-                } else if (xml.name() == QLatin1String("translation")) {
-                    m.plain = m.plain && !xml.attributes().hasAttribute("type");
-                    m.translation = xml.readElementText(QXmlStreamReader::IncludeChildElements);
-                } else {
-                    m.plain = false;  // comment, extra comment, numerusform
-                    xml.skipCurrentElement();
-                }
+        bool plain = !xml.attributes().hasAttribute("numerus");
+        QString source;
+        while (xml.readNextStartElement()) {
+            if (xml.name() == QLatin1String("source")) {
+                source = xml.readElementText();
+                continue;
             }
-            messages.append(m);
+            // Not plain: a comment, an extra comment, numerus forms, an unfinished translation.
+            plain = plain && xml.name() == QLatin1String("translation") &&
+                    !xml.attributes().hasAttribute("type");
+            xml.skipCurrentElement();
         }
+        EXPECT_TRUE(plain) << "comment, plural or unfinished: " << qPrintable(source);
+        sources << source;
     }
-    if (xml.hasError())
-        *error = xml.errorString();
-    return messages;
+    EXPECT_FALSE(xml.hasError()) << qPrintable(xml.errorString());
+    return sources;
 }
 
 // Translations that are rightly the English text, per language, with the
@@ -140,41 +125,31 @@ QMap<QString, QMap<QString, QString>> SameAsEnglish()
     return same;
 }
 
-// The installer pages whose own rows carry accelerators, by key prefix, with
-// the installer's buttons each shows (msi_button_*): every wizard page shows
+// The installer pages whose own rows carry accelerators, by key, with the
+// installer's buttons each shows (msi_button_*): every wizard page shows
 // Back, Next and Cancel (Cancel without an accelerator), the last page Finish
 // in place of Next, the licence page Print as well; the files-in-use box is no
 // wizard page and shows Retry, Ignore and Exit.
-struct Page {
-    const char* prefix;
-    const char* rows;
-    const char* buttons;
-};
-const Page kPages[] = {
-    {"msi_eula_dlg_", "accept reject", "back next print"},
-    {"msi_exit_dlg_", "launch", "back finish"},
-    {"msi_filesinuse_dlg_", "closeall closenone", "retry ignore exit"},
-    {"msi_maintenance_dlg_", "change_label remove_label repair_label", "back next"},
+const char* const kPages[] = {
+    "msi_eula_dlg_accept msi_eula_dlg_reject back next print",
+    "msi_exit_dlg_launch back finish",
+    "msi_filesinuse_dlg_closeall msi_filesinuse_dlg_closenone retry ignore exit",
+    "msi_maintenance_dlg_change_label msi_maintenance_dlg_remove_label "
+    "msi_maintenance_dlg_repair_label back next",
 };
 
 // The accelerator's letter, case-folded; "&&" is a literal ampersand.
 QChar Accelerator(const QString& text)
 {
-    for (int i = 0; i + 1 < text.size(); ++i) {
-        if (text[i] != QLatin1Char('&'))
-            continue;
-        if (text[i + 1].isLetter())
-            return text[i + 1].toCaseFolded();
-        ++i;
-    }
-    return {};
+    const auto match = QRegularExpression(QStringLiteral("(?<!&)(?:&&)*&(\\p{L})")).match(text);
+    return match.hasMatch() ? match.captured(1).at(0).toCaseFolded() : QChar();
 }
 
 class Catalogue : public testing::TestWithParam<Language> {};
 
 TEST_P(Catalogue, TranslatesExactlyTheTableTextsKeepingTheirMarkers)
 {
-    const QString code = GetParam().code;
+    const QString code = GetParam().name;
     const QString path = ":/" + code + ".qm";
     const bool cjk = QStringList{"cht", "chs", "jpn", "krn"}.contains(code);
     const QResource resource(path);
@@ -183,15 +158,11 @@ TEST_P(Catalogue, TranslatesExactlyTheTableTextsKeepingTheirMarkers)
 
     const QMap<QString, QList<int>> table = TableTexts();
     ASSERT_EQ(496, table.size());
-    QString error;
-    const QList<Message> messages = ListCatalogue(code, &error);
-    ASSERT_TRUE(error.isEmpty()) << qPrintable(error);
-    for (const Message& m : messages) {
-        EXPECT_EQ("global", m.context) << qPrintable(m.source);
-        EXPECT_TRUE(m.plain) << "comment, plural or unfinished: " << qPrintable(m.source);
-        EXPECT_TRUE(table.contains(m.source)) << "not a table text: " << qPrintable(m.source);
-    }
-    EXPECT_EQ(496, messages.size());
+    const QStringList sources = ListCatalogue(code);
+    // All in context "global": each table text is found there, and there are no more.
+    for (const QString& source : sources)
+        EXPECT_TRUE(table.contains(source)) << "not a table text: " << qPrintable(source);
+    EXPECT_EQ(496, sources.size());
 
     QTranslator translator;
     ASSERT_TRUE(translator.load(path));
@@ -223,49 +194,40 @@ TEST_P(Catalogue, TranslatesExactlyTheTableTextsKeepingTheirMarkers)
     EXPECT_EQ(code == "enu", english[0] == StrTable::LoadStr(StrTable::kIdPreparationDone));
     EXPECT_EQ(code == "enu", english[1] == StrTable::LoadStr(StrTable::kIdPreparing));
     // Keyed by the English text alone, rows sharing a text cannot differ.
-    for (const QList<int>& ids : table) {
+    for (const QList<int>& ids : table)
         for (int id : ids)
             EXPECT_EQ(StrTable::LoadStr(ids.first()), StrTable::LoadStr(id)) << "id " << id;
-    }
     const QLocale locale(GetParam().locale);
-    for (int m = 1; m <= 12; ++m) {
-        const QString name = StrTable::LoadStr(
-            StrTable::LookupStrID("month_" + QLocale::c().monthName(m, QLocale::ShortFormat).toLower()));
-        EXPECT_EQ(locale.standaloneMonthName(m).toCaseFolded(), name.toCaseFolded());
-    }
-    for (int d = 1; d <= 7; ++d) {
-        const QString name = StrTable::LoadStr(StrTable::LookupStrID(QLocale::c().dayName(d).toLower()));
-        EXPECT_EQ(locale.standaloneDayName(d).toCaseFolded(), name.toCaseFolded());
-    }
+    const auto named = [](const QString& key) {
+        return StrTable::LoadStr(StrTable::LookupStrID(key)).toCaseFolded();
+    };
+    for (int m = 1; m <= 12; ++m)
+        EXPECT_EQ(locale.standaloneMonthName(m).toCaseFolded(),
+                  named("month_" + QLocale::c().monthName(m, QLocale::ShortFormat).toLower()));
+    for (int d = 1; d <= 7; ++d)
+        EXPECT_EQ(locale.standaloneDayName(d).toCaseFolded(), named(QLocale::c().dayName(d).toLower()));
 }
 
 TEST_P(Catalogue, GivesEachAcceleratorOfAnInstallerPageToOneControl)
 {
     QTranslator translator;
-    ASSERT_TRUE(translator.load(":/" + QString(GetParam().code) + ".qm"));
+    ASSERT_TRUE(translator.load(":/" + QString(GetParam().name) + ".qm"));
     ScopedTranslator installed(&translator);
-    for (const Page& page : kPages) {
-        QStringList keys;
-        for (const QString& row : QString(page.rows).split(' '))
-            keys << page.prefix + row;
-        for (const QString& button : QString(page.buttons).split(' '))
-            keys << "msi_button_" + button;
+    for (const char* page : kPages) {
         QMap<QChar, QString> taken;
-        for (const QString& key : keys) {
+        for (const QString& word : QString(page).split(' ')) {
+            const QString key = word.startsWith("msi_") ? word : "msi_button_" + word;
             const QString text = StrTable::LoadStr(StrTable::LookupStrID(key));
             const QChar letter = Accelerator(text);
             EXPECT_FALSE(letter.isNull()) << "no accelerator: " << qPrintable(key);
             EXPECT_FALSE(taken.contains(letter))
-                << page.prefix << ": " << qPrintable(taken.value(letter)) << " and " << qPrintable(text);
+                << page << ": " << qPrintable(taken.value(letter)) << " and " << qPrintable(text);
             taken.insert(letter, text);
         }
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, Catalogue, testing::ValuesIn(kLanguages),
-                         [](const testing::TestParamInfo<Language>& info) {
-                             return std::string(info.param.code);
-                         });
+INSTANTIATE_TEST_SUITE_P(Languages, Catalogue, testing::ValuesIn(kLanguages), dwtest::RowName());
 
 TEST(StrTable, EnglishWithoutTranslatorAndEmptyOutsideTheTable)
 {
