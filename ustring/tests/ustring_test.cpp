@@ -200,6 +200,9 @@ TEST(UstringTest, TrimRemovesSetBytesAtEitherEnd)
         EXPECT_STREQ(ustring(r.text).trim(r.set).c_str(), r.both);
         EXPECT_STREQ(ustring(r.text).ltrim(ustring(r.set)).c_str(), r.left);
         EXPECT_STREQ(ustring(r.text).rtrim(r.set).c_str(), r.right);
+        EXPECT_STREQ(ustring(r.text).trim(ustring(r.set)).c_str(), r.both);
+        EXPECT_STREQ(ustring(r.text).ltrim(r.set).c_str(), r.left);
+        EXPECT_STREQ(ustring(r.text).rtrim(ustring(r.set)).c_str(), r.right);
     }
 }
 
