@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QSettings>
 
 namespace {
@@ -45,12 +46,10 @@ Package ClientPackage(int build, int filler_count, ClientKind kind)
 TestBundle::TestBundle(const QString& home_name) : home_name_(home_name)
 {
     dwtest::EnsureCoreApplication();  // for QProcess
-    if (!dir_.isValid() || !QDir().mkpath(home()))
-        return;
     // cp -a keeps the plug-in links and the launcher's mode.
-    if (QProcess::execute("cp", {"-a", DW_BUNDLE_DIR, bundle()}) != 0)
-        return;
-    ok_ = dwtest::WriteFile(bundle() + "/log/launcher.debug",
+    ok_ = dir_.isValid() && QDir().mkpath(home()) &&
+          QProcess::execute("cp", {"-a", DW_BUNDLE_DIR, bundle()}) == 0 &&
+          dwtest::WriteFile(bundle() + "/log/launcher.debug",
                             "launcher_debug = 7\nservice_debug = 7\nextractor_debug = 7\n");
 }
 
@@ -110,10 +109,8 @@ QList<qint64> TestBundle::processes() const
 QProcessEnvironment TestBundle::environment() const
 {
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    for (const QString& key : env.keys()) {
-        if (key == "LANG" || key == "LANGUAGE" || key.startsWith("LC_"))
-            env.remove(key);
-    }
+    for (const QString& key : env.keys().filter(QRegularExpression("^(LANG|LANGUAGE|LC_.*)$")))
+        env.remove(key);
     env.insert("HOME", home());
     env.insert("LANG", "C");
     env.insert("QT_QPA_PLATFORM", "offscreen");
@@ -127,13 +124,11 @@ RunResult TestBundle::run(const QProcessEnvironment& env, const QString& program
     process.setProcessEnvironment(env);
     process.setWorkingDirectory(working_dir);
     process.start(program.isEmpty() ? executable() : program, QStringList());
-    RunResult result;
     // One that does not end in time is killed with the QProcess.
-    result.exited_with_zero = process.waitForFinished(kRunTimeoutMs) &&
-                              process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-    result.out = QString::fromUtf8(process.readAllStandardOutput());
-    result.err = QString::fromUtf8(process.readAllStandardError());
-    return result;
+    const bool zero = process.waitForFinished(kRunTimeoutMs) &&
+                      process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    return {zero, QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
 }
 
 void TestBundle::start(QProcess& launcher, const QString& display) const

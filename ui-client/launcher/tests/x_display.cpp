@@ -1,7 +1,5 @@
 #include "x_display.h"
 
-#include <cstring>
-
 #include <QRegularExpression>
 
 #include "launcher_testkit.h"
@@ -10,25 +8,10 @@
 #include <X11/Xlib.h>
 #include <X11/keysym.h>
 
-namespace {
-
-Display* Dpy(void* display)
-{
-    return static_cast<Display*>(display);
-}
-
-// Xlib's default handler ends the process on a window that is gone already.
-int IgnoreError(Display*, XErrorEvent*)
-{
-    return 0;
-}
-
-}  // namespace
-
 XDisplay::~XDisplay()
 {
     if (display_ != nullptr)
-        XCloseDisplay(Dpy(display_));
+        XCloseDisplay(display_);
     server_.terminate();
     server_.waitForFinished(kWaitTimeoutMs);
 }
@@ -44,7 +27,8 @@ bool XDisplay::start()
     bool number = false;
     const int n = QString::fromLatin1(server_.readLine()).trimmed().toInt(&number);
     name_ = QString(":%1").arg(n);
-    XSetErrorHandler(IgnoreError);
+    // Xlib's default handler ends the process on a window that is gone already.
+    XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
     display_ = number ? XOpenDisplay(name_.toLatin1().constData()) : nullptr;
     return display_ != nullptr;
 }
@@ -62,29 +46,24 @@ unsigned long XDisplay::viewableWindow(const QByteArray& title)
 
 bool XDisplay::tryToDismiss(unsigned long window)
 {
-    Display* dpy = Dpy(display_);
-    XEvent event;
-    std::memset(&event, 0, sizeof event);
+    XEvent event{};
     XKeyEvent& key = event.xkey;
-    key.display = dpy;
     key.window = window;
-    key.root = DefaultRootWindow(dpy);
-    key.time = CurrentTime;
+    key.root = DefaultRootWindow(display_);
     key.same_screen = True;
-    key.keycode = XKeysymToKeycode(dpy, XK_Escape);
+    key.keycode = XKeysymToKeycode(display_, XK_Escape);
     key.type = KeyPress;
-    bool sent = XSendEvent(dpy, window, True, KeyPressMask, &event) != 0;
+    bool sent = XSendEvent(display_, window, True, KeyPressMask, &event) != 0;
     key.type = KeyRelease;
-    sent = XSendEvent(dpy, window, True, KeyReleaseMask, &event) != 0 && sent;
+    sent = XSendEvent(display_, window, True, KeyReleaseMask, &event) != 0 && sent;
 
-    std::memset(&event, 0, sizeof event);
+    event = XEvent{};
     event.xclient.type = ClientMessage;
     event.xclient.window = window;
-    event.xclient.message_type = XInternAtom(dpy, "WM_PROTOCOLS", False);
+    event.xclient.message_type = XInternAtom(display_, "WM_PROTOCOLS", False);
     event.xclient.format = 32;
-    event.xclient.data.l[0] = static_cast<long>(XInternAtom(dpy, "WM_DELETE_WINDOW", False));
-    event.xclient.data.l[1] = CurrentTime;
-    sent = XSendEvent(dpy, window, False, NoEventMask, &event) != 0 && sent;
-    XSync(dpy, False);
+    event.xclient.data.l[0] = static_cast<long>(XInternAtom(display_, "WM_DELETE_WINDOW", False));
+    sent = XSendEvent(display_, window, False, NoEventMask, &event) != 0 && sent;
+    XSync(display_, False);
     return sent;
 }

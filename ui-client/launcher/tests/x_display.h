@@ -7,9 +7,10 @@
 #include <QProcess>
 #include <QString>
 
+struct _XDisplay;  // Xlib's Display
+
 class XDisplay {
 public:
-    XDisplay() = default;
     ~XDisplay();
 
     // Starts the server on a display number of its choosing and connects.
@@ -24,12 +25,9 @@ public:
     bool tryToDismiss(unsigned long window);
 
 private:
-    XDisplay(const XDisplay&) = delete;
-    XDisplay& operator=(const XDisplay&) = delete;
-
-    QProcess server_;
+    QProcess server_;  // not copyable, so neither is this
     QString name_;
-    void* display_ = nullptr;
+    _XDisplay* display_ = nullptr;
 };
 
 #endif

@@ -17,6 +17,7 @@
 // per point; exit status 0 when every killed trial survived.
 #include <signal.h>
 
+#include <algorithm>
 #include <chrono>
 #include <climits>
 #include <cstdio>
@@ -31,6 +32,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
@@ -76,16 +78,16 @@ public:
         if (!file_.isOpen() && !file_.open(QIODevice::ReadOnly))
             return from;
         pending_ += file_.readAll();
-        int start = 0;
-        for (int end; (end = pending_.indexOf('\n', start)) >= 0; start = end + 1) {
-            const QList<QByteArray> f = pending_.mid(start, end - start).split('\t');
+        const int complete = pending_.lastIndexOf('\n') + 1;  // a line being written waits
+        for (const QByteArray& line : pending_.left(complete).split('\n')) {
+            const QList<QByteArray> f = line.split('\t');
             if (f.size() != 5)
                 continue;
             calls.push_back(
                 {f[0].toLong(), f[1], QString::fromUtf8(f[2]), QString::fromUtf8(f[3]), f[4].toLong()});
             calls.back().phase = Next(calls.back());
         }
-        pending_.remove(0, start);
+        pending_.remove(0, complete);
         return from;
     }
 
@@ -145,9 +147,8 @@ struct Outcome {
 };
 
 struct Options {
-    int trials;
+    int trials, files, only;
     unsigned long seed;
-    int files, only;
     bool verbose;
 };
 
@@ -259,8 +260,7 @@ private:
         }
         for (int i = 0; ok && i < 4; ++i) {
             QByteArray data(256 * 1024, '\0');
-            for (char& byte : data)
-                byte = static_cast<char>(rng());
+            std::generate(data.begin(), data.end(), [&] { return static_cast<char>(rng()); });
             ok = WriteFile(root + QString("/Contents/Resources/media/clip%1.bin").arg(i), data);
         }
         return ok && QFile::link("data/d0/f1.txt", root + "/Contents/Resources/current.txt") &&
@@ -406,20 +406,15 @@ private:
         const QString app = b.userApp();
         const auto backups = [&] {
             QStringList found;
-            for (int i = 0; i <= 9; ++i) {
-                const QString backup = app + "_tmp" + (i == 0 ? QString() : QString::number(i));
-                if (QFileInfo::exists(backup))
-                    found << backup;
-            }
+            for (QDirIterator it(b.userDir(), {"Driftwell.app_tmp*"}, QDir::AllEntries); it.hasNext();)
+                found << it.next();
             return found;
         };
         // What the killed run left, each to be named in a warning.
         QStringList left = backups();
+        const QSettings record(app + "/Contents/Resources/INFO", QSettings::IniFormat);
         if (QFileInfo::exists(app) && !(QFile::exists(app + "/Contents/MacOS/drift-ui") &&
-                                        !QSettings(app + "/Contents/Resources/INFO", QSettings::IniFormat)
-                                             .value("Version/build_version")
-                                             .toString()
-                                             .isEmpty()))
+                                        !record.value("Version/build_version").toString().isEmpty()))
             left << app;
         what += QString(", left %1 folder(s)").arg(left.size());
 
@@ -471,8 +466,8 @@ int main(int argc, char** argv)
                      {"only", "Runs trial T alone.", "T", "-1"},
                      {"v", "Prints the calls of each phase and every trial."}});
     args.process(app);
-    const Options o{args.value("trials").toInt(), args.value("seed").toULong(), args.value("files").toInt(),
-                    args.value("only").toInt(), args.isSet("v")};
+    const Options o{args.value("trials").toInt(), args.value("files").toInt(), args.value("only").toInt(),
+                    args.value("seed").toULong(), args.isSet("v")};
     FaultDriver driver(o);
     printf("fault injection: seed %lu, %d trials, package of %d files\n", o.seed, o.trials, o.files);
     fflush(stdout);
