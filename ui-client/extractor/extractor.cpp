@@ -38,7 +38,7 @@ const char kComponent[] = "extractor_debug";
 const int kMaxWriters = 4;
 
 // Read granularity of every pass over the package.
-const size_t kBlockSize = 10240;
+const size_t kBlockSize = 64 * 1024;
 
 // The version record is a few lines; one this big is no record.
 const size_t kRecordLimit = 64 * 1024;
